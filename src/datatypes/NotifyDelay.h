@@ -1,0 +1,27 @@
+#pragma once
+// A scope during which notifications are held back; they go out, in order, when the outermost closes.
+#include <ZelmarMediaLib/datatypes/ZelmarObject.h>
+
+namespace ZelmarMediaLib {
+
+class Observable;
+class Observer;
+
+// Its state is global and unlocked: only the thread that holds the project's write lock
+// may open one or cause notifications.
+class NotifyDelay : public ZelmarObject {
+public:
+    NotifyDelay();
+    NotifyDelay(NotifyDelay const&);
+    NotifyDelay& operator=(NotifyDelay const&) = delete;
+    // Never throws: an exception from an observer ends that subject's walk and nothing else.
+    ~NotifyDelay() override;
+
+    static bool isActive();
+    // A subject that changes five times stands here five times, and is notified five times.
+    static void addObservable(Observable const* observable);
+    static void removeObservable(Observable const* observable);
+    static void removeObserver(Observer* observer);
+};
+
+}  // namespace ZelmarMediaLib

@@ -1,0 +1,13 @@
+#pragma once
+// The project's edit rate: edit units per second, which turns file time into timeline time.
+#include <ZelmarMediaLib/datatypes/BoostNames.h>
+
+namespace ZelmarMediaLib {
+
+class ProjectEditRate {
+public:
+    virtual ~ProjectEditRate() = default;
+    virtual rational<unsigned long> editRate() const = 0;
+};
+
+}  // namespace ZelmarMediaLib

@@ -1,0 +1,14 @@
+#pragma once
+// The root of most classes of the library: a printable description for debugging.
+#include <string>
+
+namespace ZelmarMediaLib {
+
+// Model classes inherit this virtually, since many reach it along several paths.
+class ZelmarObject {
+public:
+    virtual ~ZelmarObject();
+    virtual std::string description() const;
+};
+
+}  // namespace ZelmarMediaLib

@@ -1,0 +1,12 @@
+#pragma once
+// A refused addition or removal of a mixer or track.
+#include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
+
+namespace ZelmarMediaLib {
+
+class AddRemoveException : public ZelmarMediaLibException {
+public:
+    explicit AddRemoveException(std::string const& message);
+};
+
+}  // namespace ZelmarMediaLib

@@ -1,0 +1,12 @@
+#pragma once
+// A media kind that a dispatcher does not handle.
+#include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
+
+namespace ZelmarMediaLib {
+
+class DefaultMediaDispatcherException : public ZelmarMediaLibException {
+public:
+    explicit DefaultMediaDispatcherException(std::string const& message);
+};
+
+}  // namespace ZelmarMediaLib

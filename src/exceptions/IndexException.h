@@ -1,0 +1,17 @@
+#pragma once
+// An index outside the bounds of a list of tracks, effects or file tracks.
+#include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
+
+namespace ZelmarMediaLib {
+
+class IndexException : public ZelmarMediaLibException {
+public:
+    explicit IndexException(int index);
+
+    int index() const { return index_; }
+
+private:
+    int index_;
+};
+
+}  // namespace ZelmarMediaLib

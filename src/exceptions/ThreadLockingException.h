@@ -1,0 +1,12 @@
+#pragma once
+// A lock taken in a way that would deadlock.
+#include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
+
+namespace ZelmarMediaLib {
+
+class ThreadLockingException : public ZelmarMediaLibException {
+public:
+    explicit ThreadLockingException(std::string const& message);
+};
+
+}  // namespace ZelmarMediaLib

@@ -1,0 +1,12 @@
+#pragma once
+// A media or track of a kind that the receiver does not take.
+#include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
+
+namespace ZelmarMediaLib {
+
+class TypeException : public ZelmarMediaLibException {
+public:
+    explicit TypeException(std::string const& message);
+};
+
+}  // namespace ZelmarMediaLib

@@ -1,0 +1,20 @@
+#pragma once
+// The root of every failure that the library reports on its own.
+#include <exception>
+#include <string>
+
+namespace ZelmarMediaLib {
+
+class ZelmarMediaLibException : public std::exception {
+public:
+    explicit ZelmarMediaLibException(std::string const& message);
+    ~ZelmarMediaLibException() noexcept override;
+
+    char const* what() const noexcept override;
+    std::string const& message() const { return message_; }
+
+private:
+    std::string message_;
+};
+
+}  // namespace ZelmarMediaLib

@@ -1,0 +1,21 @@
+#pragma once
+// One value of a parameter at a whole edit-unit time.
+#include <ZelmarMediaLib/datatypes/Cloneable.h>
+#include <ZelmarMediaLib/datatypes/ZelmarObject.h>
+
+namespace ZelmarMediaLib {
+
+template <class T>
+class KeyFrame : public virtual ZelmarObject, public virtual Cloneable {
+public:
+    KeyFrame(long long time, T const& value) : time(time), value(value) {}
+    KeyFrame(KeyFrame const&) = default;
+
+    // A pointer value is copied and its object shared.
+    KeyFrame* clone() const override { return new KeyFrame(*this); }
+
+    long long time;
+    T value;
+};
+
+}  // namespace ZelmarMediaLib

@@ -1,0 +1,283 @@
+// The history's stacks: discipline, the undo limit, combining, restoring and cloning.
+#include <ZelmarMediaLib/commands/CommandHistory.h>
+#include <ZelmarMediaLib/commands/CommandPair.h>
+#include <ZelmarMediaLib/commands/NullCmd.h>
+#include <ZelmarMediaLib/exceptions/ValueException.h>
+
+#include "support/CountingObserver.h"
+#include "support/RecordingCommand.h"
+#include "support/XmlCheck.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace ZelmarMediaLib {
+namespace {
+
+using test::Log;
+using test::RecordingCommand;
+
+class CommandHistoryTest : public ::testing::Test {
+protected:
+    CommandHistory history{nullptr};
+    Log log;
+    test::CountingObserver observer;
+
+    void SetUp() override { history.attach(&observer); }
+
+    shared_ptr<RecordingCommand> run(std::string const& name) {
+        shared_ptr<RecordingCommand> command = RecordingCommand::create(&log, name);
+        history.execute(command);
+        return command;
+    }
+
+    std::vector<std::string> names(CommandHistory::CommandList const& stack) const {
+        std::vector<std::string> result;
+        for (shared_ptr<Command> const& command : stack) {
+            auto recording = dynamic_pointer_cast<RecordingCommand>(command);
+            result.push_back(recording ? recording->name : "?");
+        }
+        return result;
+    }
+    typedef std::vector<std::string> Names;
+};
+
+TEST_F(CommandHistoryTest, UndoAndRedoMoveCommandsBetweenTheStacks) {
+    run("a");
+    run("b");
+    history.undo();
+    EXPECT_EQ(Names({"a"}), names(history.undoStack()));
+    EXPECT_EQ(Names({"b"}), names(history.redoStack()));
+    history.redo();
+    EXPECT_EQ(Names({"a", "b"}), names(history.undoStack()));
+    EXPECT_TRUE(history.redoStack().empty());
+    EXPECT_EQ(Log({"execute a", "execute b", "unexecute b", "reexecute b"}), log);
+    EXPECT_EQ(4, observer.calls);
+}
+
+TEST_F(CommandHistoryTest, NewCommandThrowsTheRedoStackAway) {
+    run("a");
+    history.undo();
+    run("b");
+    EXPECT_EQ(Names({"b"}), names(history.undoStack()));
+    EXPECT_TRUE(history.redoStack().empty());
+}
+
+TEST_F(CommandHistoryTest, DecliningCommandLeavesBothStacksAndObserversAlone) {
+    run("a");
+    history.undo();
+    int const callsBefore = observer.calls;
+    shared_ptr<RecordingCommand> lazy = RecordingCommand::create(&log, "lazy");
+    lazy->accepts = false;
+    EXPECT_FALSE(history.execute(lazy));
+    EXPECT_TRUE(history.undoStack().empty());
+    EXPECT_EQ(Names({"a"}), names(history.redoStack()));
+    EXPECT_EQ(callsBefore, observer.calls);
+}
+
+TEST_F(CommandHistoryTest, FailingCommandLeavesTheStacksUntouched) {
+    run("a");
+    shared_ptr<RecordingCommand> broken = RecordingCommand::create(&log, "broken");
+    broken->executeFailure = RecordingCommand::libraryError;
+    EXPECT_THROW(history.execute(broken), ZelmarMediaLibException);
+    EXPECT_EQ(Names({"a"}), names(history.undoStack()));
+}
+
+TEST_F(CommandHistoryTest, EmptyStacksRefuseWithTheirTexts) {
+    try {
+        history.undo();
+        FAIL();
+    } catch (ZelmarMediaLibException const& error) {
+        EXPECT_STREQ("no commands to undo", error.what());
+    }
+    try {
+        history.redo();
+        FAIL();
+    } catch (ZelmarMediaLibException const& error) {
+        EXPECT_STREQ("no commands to redo", error.what());
+    }
+}
+
+TEST_F(CommandHistoryTest, CommandWhoseUndoFailsIsOnNeitherStack) {
+    shared_ptr<RecordingCommand> stubborn = run("stubborn");
+    stubborn->unexecuteFailure = RecordingCommand::libraryError;
+    EXPECT_THROW(history.undo(), ZelmarMediaLibException);
+    EXPECT_TRUE(history.undoStack().empty());
+    EXPECT_TRUE(history.redoStack().empty());
+}
+
+TEST_F(CommandHistoryTest, UndoLimitDropsFromTheBottomButRedoMayExceedIt) {
+    history.setUndoLimit(2);
+    run("a");
+    run("b");
+    run("c");
+    EXPECT_EQ(Names({"b", "c"}), names(history.undoStack()));
+    history.undo();
+    run("d");
+    history.undo();
+    EXPECT_EQ(Names({"b"}), names(history.undoStack()));
+    history.setUndoLimit(5);
+    run("e");
+    run("f");
+    history.setUndoLimit(3);
+    EXPECT_EQ(Names({"b", "e", "f"}), names(history.undoStack()));
+}
+
+TEST_F(CommandHistoryTest, RedoCanPushTheStackOverTheLimit) {
+    run("a");
+    run("b");
+    history.undo();
+    history.setUndoLimit(1);
+    history.redo();
+    EXPECT_EQ(Names({"a", "b"}), names(history.undoStack()));
+}
+
+TEST_F(CommandHistoryTest, LimitZeroRunsCommandsButKeepsNothingAndNegativeMeansNoLimit) {
+    run("a");
+    history.setUndoLimit(0);
+    EXPECT_TRUE(history.undoStack().empty());
+    run("b");
+    EXPECT_EQ(Log({"execute a", "execute b"}), log);
+    EXPECT_TRUE(history.undoStack().empty());
+    history.setUndoLimit(-5);
+    for (int i = 0; i < 4; ++i)
+        run("n");
+    EXPECT_EQ(4u, history.undoStack().size());
+    EXPECT_EQ(-5, history.undoLimit());
+}
+
+TEST_F(CommandHistoryTest, CombineMergesTheTopTwoIntoAPairWithoutRunningThem) {
+    run("a");
+    history.combineLastCommands();
+    EXPECT_EQ(Names({"a"}), names(history.undoStack()));
+
+    run("b");
+    run("c");
+    int const callsBefore = observer.calls;
+    history.combineLastCommands();
+    ASSERT_EQ(2u, history.undoStack().size());
+    auto pair = dynamic_pointer_cast<CommandPair>(history.undoStack().back());
+    ASSERT_TRUE(pair);
+    EXPECT_EQ("b", dynamic_pointer_cast<RecordingCommand>(pair->first())->name);
+    EXPECT_EQ("c", dynamic_pointer_cast<RecordingCommand>(pair->second())->name);
+    EXPECT_EQ(Log({"execute a", "execute b", "execute c"}), log);
+    EXPECT_EQ(callsBefore, observer.calls);
+}
+
+TEST_F(CommandHistoryTest, RestoringATakenStateUndoesLaterCommandsAndRestoresItsRedoStack) {
+    run("a");
+    run("b");
+    history.undo();
+    CommandHistoryState const state = history.state();
+    run("c");
+    run("d");
+    log.clear();
+    history.restoreState(state);
+    EXPECT_EQ(Log({"unexecute d", "unexecute c"}), log);
+    EXPECT_EQ(Names({"a"}), names(history.undoStack()));
+    EXPECT_EQ(Names({"b"}), names(history.redoStack()));
+}
+
+TEST_F(CommandHistoryTest, RestoringTheStateOfAnEmptyHistoryUndoesEverything) {
+    CommandHistoryState const empty = history.state();
+    EXPECT_FALSE(empty.undoTop);
+    run("a");
+    run("b");
+    history.undo();
+    log.clear();
+    history.restoreState(empty);
+    EXPECT_EQ(Log({"unexecute a"}), log);
+    EXPECT_TRUE(history.undoStack().empty());
+    EXPECT_TRUE(history.redoStack().empty());
+}
+
+TEST_F(CommandHistoryTest, RestoringTheCurrentStateRunsNothing) {
+    run("a");
+    run("b");
+    history.undo();
+    log.clear();
+    history.restoreState(history.state());
+    EXPECT_TRUE(log.empty());
+    EXPECT_EQ(Names({"a"}), names(history.undoStack()));
+    EXPECT_EQ(Names({"b"}), names(history.redoStack()));
+}
+
+TEST_F(CommandHistoryTest, TopFoundOnlyOnTheRedoStackIsUnrolledThere) {
+    run("a");
+    run("b");
+    run("c");
+    history.undo();
+    history.undo();
+    CommandHistoryState state;
+    state.undoTop = history.redoStack().front();  // "c", at the redo stack's bottom
+    log.clear();
+    history.restoreState(state);
+    EXPECT_EQ(Log({"unexecute b"}), log);
+    EXPECT_EQ(Names({"a"}), names(history.undoStack()));
+    EXPECT_TRUE(history.redoStack().empty());
+}
+
+TEST_F(CommandHistoryTest, ForeignStateIsRefusedAndChangesNothing) {
+    run("a");
+    CommandHistoryState foreign;
+    foreign.undoTop = NullCmd::create();
+    log.clear();
+    testing::internal::CaptureStderr();
+    try {
+        history.restoreState(foreign);
+        FAIL();
+    } catch (ValueException<CommandHistoryState> const& error) {
+        EXPECT_STREQ("State cannot be restored, cannot find undo top", error.what());
+        EXPECT_EQ(foreign.undoTop, error.value().undoTop);
+    }
+    std::string const printed = testing::internal::GetCapturedStderr();
+    EXPECT_EQ(history.description() + "\n", printed);
+    EXPECT_TRUE(log.empty());
+    EXPECT_EQ(Names({"a"}), names(history.undoStack()));
+}
+
+TEST_F(CommandHistoryTest, CloneClonesEachCommandOnceButPairsShareTheirHalves) {
+    run("a");
+    run("b");
+    history.combineLastCommands();
+    run("c");
+    history.undo();
+    history.setUndoLimit(7);
+    std::unique_ptr<CommandHistory> copy(history.clone());
+    EXPECT_EQ(7, copy->undoLimit());
+    ASSERT_EQ(1u, copy->undoStack().size());
+    ASSERT_EQ(1u, copy->redoStack().size());
+    EXPECT_NE(history.redoStack().front(), copy->redoStack().front());
+    EXPECT_EQ(Names({"c"}), names(copy->redoStack()));
+    auto original = dynamic_pointer_cast<CommandPair>(history.undoStack().front());
+    auto cloned = dynamic_pointer_cast<CommandPair>(copy->undoStack().front());
+    ASSERT_TRUE(cloned);
+    EXPECT_NE(original, cloned);
+    EXPECT_EQ(original->first(), cloned->first());
+    EXPECT_EQ(original->second(), cloned->second());
+}
+
+TEST_F(CommandHistoryTest, XmlListsBothStacksBottomToTop) {
+    shared_ptr<Command> first = NullCmd::create();
+    shared_ptr<Command> second = NullCmd::create();
+    history.execute(first);
+    history.execute(second);
+    history.undo();
+    std::string const id = std::to_string(history.xmlIdent());
+    std::string const expected = "<CommandHistory id=\"" + id + "\"  >\n"
+                                 " <UndoStack>\n"
+                                 "  <NullCmd id=\"" + std::to_string(first->xmlIdent()) + "\"  >\n"
+                                 "  </NullCmd>\n"
+                                 "</UndoStack>\n"
+                                 " <RedoStack>\n"
+                                 "  <NullCmd id=\"" + std::to_string(second->xmlIdent()) + "\"  >\n"
+                                 "  </NullCmd>\n"
+                                 "</RedoStack>\n"
+                                 "</CommandHistory>\n";
+    EXPECT_EQ(expected, history.description());
+    EXPECT_TRUE(test::isWellFormedXml(history.description()));
+}
+
+}  // namespace
+}  // namespace ZelmarMediaLib

@@ -1,0 +1,214 @@
+// The project facade: creation, the command path with its lock, observer and delay, combining,
+// and the document skeleton.
+#include <ZelmarMediaLib/commands/CommandHandler.h>
+#include <ZelmarMediaLib/commands/CommandHistory.h>
+#include <ZelmarMediaLib/commands/CommandPair.h>
+#include <ZelmarMediaLib/commands/NullCmd.h>
+#include <ZelmarMediaLib/datatypes/NotifyDelay.h>
+#include <ZelmarMediaLib/datatypes/ReadWriteMutex.h>
+#include <ZelmarMediaLib/exceptions/ValueException.h>
+#include <ZelmarMediaLib/project/CommandObserver.h>
+#include <ZelmarMediaLib/project/InternalProject.h>
+
+#include "support/CountingObserver.h"
+#include "support/RecordingCommand.h"
+#include "support/XmlCheck.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace ZelmarMediaLib {
+namespace {
+
+using test::Log;
+using test::RecordingCommand;
+
+// Records what the project's state was when it was told of a command.
+class LockProbe : public CommandObserver {
+public:
+    explicit LockProbe(ReadWriteMutex& mutex) : mutex_(mutex) {}
+    void preCommand() override {
+        writerHeld.push_back(mutex_.hasWriter());
+        delayOpen.push_back(NotifyDelay::isActive());
+    }
+    std::vector<bool> writerHeld;
+    std::vector<bool> delayOpen;
+
+private:
+    ReadWriteMutex& mutex_;
+};
+
+class ProjectTest : public ::testing::Test {
+protected:
+    shared_ptr<Project> project = Project::create(30, 1);
+    Log log;
+
+    shared_ptr<RecordingCommand> command(std::string const& name) { return RecordingCommand::create(&log, name); }
+    std::size_t undoDepth() const { return project->commandHistory()->undoStack().size(); }
+};
+
+TEST_F(ProjectTest, CreationNormalisesTheRateAndRefusesAZeroDenominator) {
+    EXPECT_EQ(rational<unsigned long>(30, 1), Project::create(60, 2)->editRate());
+    EXPECT_EQ(rational<unsigned long>(30000, 1001), Project::create(rational<unsigned long>(30000, 1001))->editRate());
+    EXPECT_THROW(Project::create(30, 0), boost::bad_rational);
+}
+
+TEST_F(ProjectTest, CommandsRunUnderTheWriteLockAndObserversHearBeforeItIsReleased) {
+    test::CountingObserver observer;
+    project->commandHistory()->attach(&observer);
+    bool lockHeldWhenNotified = false;
+    observer.onUpdate = [&] { lockHeldWhenNotified = project->mutex().hasWriter(); };
+
+    shared_ptr<RecordingCommand> probe = command("probe");
+    EXPECT_TRUE(project->execute(probe));
+    EXPECT_EQ(1, observer.calls);
+    EXPECT_TRUE(lockHeldWhenNotified);
+    EXPECT_FALSE(project->mutex().hasWriter());
+    EXPECT_EQ(dynamic_cast<CommandHandler*>(project.get()), probe->lastHandler);
+}
+
+TEST_F(ProjectTest, ObserverHearsBeforeTheLockOnExecuteAndInsideItOtherwise) {
+    LockProbe probe(project->mutex());
+    project->attachCommandObserver(&probe);
+    project->execute(command("a"));
+    project->undo();
+    project->redo();
+    CommandHistoryState const state = project->commandState();
+    project->restoreCommandState(state);
+    project->combineLastCommands();
+    EXPECT_EQ(std::vector<bool>({false, true, true, true}), probe.writerHeld);
+    EXPECT_EQ(std::vector<bool>({false, false, false, false}), probe.delayOpen);
+    project->detachCommandObserver(&probe);
+}
+
+TEST_F(ProjectTest, OnlyOneCommandObserverAndOnlyItCanBeDetached) {
+    LockProbe probe(project->mutex()), other(project->mutex());
+    EXPECT_NO_THROW(project->detachCommandObserver(nullptr)) << "null matches the empty slot";
+    project->attachCommandObserver(&probe);
+    try {
+        project->attachCommandObserver(&probe);
+        FAIL();
+    } catch (ZelmarMediaLibException const& error) {
+        EXPECT_STREQ("currently only supports one observer.", error.what());
+    }
+    try {
+        project->detachCommandObserver(&other);
+        FAIL();
+    } catch (ZelmarMediaLibException const& error) {
+        EXPECT_STREQ("trying to detach a non observer", error.what());
+    }
+    project->detachCommandObserver(&probe);
+    EXPECT_NO_THROW(project->attachCommandObserver(&other));
+}
+
+TEST_F(ProjectTest, CombineNextMergesTheNextCommandIntoThePreviousStep) {
+    project->execute(command("a"));
+    project->combineNextCommand();
+    project->execute(command("b"));
+    ASSERT_EQ(1u, undoDepth());
+    EXPECT_TRUE(dynamic_pointer_cast<CommandPair>(project->commandHistory()->undoStack().back()));
+    project->execute(command("c"));
+    EXPECT_EQ(2u, undoDepth()) << "the flag is spent";
+    log.clear();
+    project->undo();
+    project->undo();
+    EXPECT_EQ(Log({"unexecute c", "unexecute b", "unexecute a"}), log);
+}
+
+TEST_F(ProjectTest, DecliningCommandStillSpendsTheFlagAndCombinesTheTopTwo) {
+    project->execute(command("a"));
+    project->execute(command("b"));
+    project->combineNextCommand();
+    shared_ptr<RecordingCommand> lazy = command("lazy");
+    lazy->accepts = false;
+    EXPECT_FALSE(project->execute(lazy));
+    ASSERT_EQ(1u, undoDepth());
+    auto pair = dynamic_pointer_cast<CommandPair>(project->commandHistory()->undoStack().back());
+    ASSERT_TRUE(pair);
+    EXPECT_EQ("b", dynamic_pointer_cast<RecordingCommand>(pair->second())->name);
+    project->execute(command("c"));
+    EXPECT_EQ(2u, undoDepth());
+}
+
+TEST_F(ProjectTest, CombineNextWithTooFewCommandsCombinesNothingAndClearsTheFlag) {
+    project->combineNextCommand();
+    project->execute(command("a"));
+    project->execute(command("b"));
+    EXPECT_EQ(2u, undoDepth());
+}
+
+TEST_F(ProjectTest, FailingCommandKeepsTheFlagAndReleasesLockAndDelay) {
+    project->execute(command("a"));
+    project->combineNextCommand();
+    shared_ptr<RecordingCommand> broken = command("broken");
+    broken->executeFailure = RecordingCommand::libraryError;
+    EXPECT_THROW(project->execute(broken), ZelmarMediaLibException);
+    EXPECT_FALSE(project->mutex().hasWriter());
+    EXPECT_FALSE(NotifyDelay::isActive());
+    project->execute(command("b"));
+    EXPECT_EQ(1u, undoDepth()) << "the flag survived the failure";
+}
+
+TEST_F(ProjectTest, UndoOnAnEmptyHistoryRaisesAndReleasesTheLock) {
+    EXPECT_THROW(project->undo(), ZelmarMediaLibException);
+    EXPECT_FALSE(project->mutex().hasWriter());
+}
+
+TEST_F(ProjectTest, RestoreOfAForeignStateRaisesAndChangesNothing) {
+    project->execute(command("a"));
+    CommandHistoryState foreign;
+    foreign.undoTop = NullCmd::create();
+    testing::internal::CaptureStderr();
+    EXPECT_THROW(project->restoreCommandState(foreign), ValueException<CommandHistoryState>);
+    testing::internal::GetCapturedStderr();
+    EXPECT_EQ(1u, undoDepth());
+}
+
+TEST_F(ProjectTest, HandlerCanBeReplaced) {
+    class OtherHandler : public CommandHandler {} other;
+    auto internal = dynamic_pointer_cast<InternalProject>(project);
+    internal->setCommandHandler(&other);
+    shared_ptr<RecordingCommand> probe = command("probe");
+    project->execute(probe);
+    EXPECT_EQ(&other, probe->lastHandler);
+}
+
+TEST_F(ProjectTest, CloneHasNoLockToHandOut) {
+    project->execute(command("a"));
+    auto internal = dynamic_pointer_cast<InternalProject>(project);
+    std::unique_ptr<InternalProject> copy(internal->clone());
+    EXPECT_NE(project->xmlIdent(), copy->xmlIdent());
+    EXPECT_THROW(copy->mutex(), ZelmarMediaLibException);
+}
+
+TEST_F(ProjectTest, NewProjectWritesOnlyTheThreeTextElements) {
+    std::ostringstream out;
+    project->toXML(out);
+    std::string const expected = "<Project id=\"" + std::to_string(project->xmlIdent()) +
+                                 "\" editRate=\"30/1\" version=\"1.0\" >\n"
+                                 " <Author></Author>\n"
+                                 " <Comment></Comment>\n"
+                                 " <System></System>\n"
+                                 "</Project>\n";
+    EXPECT_EQ(expected, out.str());
+    EXPECT_TRUE(test::isWellFormedXml(out.str()));
+}
+
+TEST_F(ProjectTest, TextElementsGoOutUnescaped) {
+    auto internal = dynamic_pointer_cast<InternalProject>(project);
+    internal->setAuthor("Ann & Bob");
+    internal->setComment("a < b");
+    std::ostringstream out;
+    project->toXML(out);
+    EXPECT_NE(std::string::npos, out.str().find(" <Author>Ann & Bob</Author>\n"));
+    EXPECT_NE(std::string::npos, out.str().find(" <Comment>a < b</Comment>\n"));
+    EXPECT_FALSE(test::isWellFormedXml(out.str()));
+}
+
+TEST_F(ProjectTest, DescriptionIsEmpty) {
+    EXPECT_EQ("", dynamic_pointer_cast<InternalProject>(project)->description());
+}
+
+}  // namespace
+}  // namespace ZelmarMediaLib
