@@ -48,6 +48,14 @@
 #include <ZelmarMediaLib/parameters/Attributable.h>
 #include <ZelmarMediaLib/parameters/Attribute.h>
 #include <ZelmarMediaLib/parameters/Identified.h>
+#include <ZelmarMediaLib/parameters/Transformer.h>
+
+#include <ZelmarMediaLib/effects/CompositeEffect.h>
+#include <ZelmarMediaLib/effects/Effect.h>
+#include <ZelmarMediaLib/effects/EffectTimeConverter.h>
+#include <ZelmarMediaLib/effects/Effectable.h>
+#include <ZelmarMediaLib/effects/ParametricEffectableUtil.h>
+#include <ZelmarMediaLib/effects/VectorEffectable.h>
 
 #include <ZelmarMediaLib/commands/Command.h>
 #include <ZelmarMediaLib/commands/CommandHandler.h>
