@@ -1,0 +1,60 @@
+#pragma once
+// Channels of an audio file track placed as a media.
+#include <ZelmarMediaLib/timeline/AudioMedia.h>
+
+#include <iosfwd>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace ZelmarMediaLib {
+
+class AMFile : public AudioMedia {
+public:
+    typedef std::set<unsigned int> ChannelSet;
+
+    // A file without a source: the figures are given, and the media range is the limits.
+    AMFile(Range<long long> const& range, unsigned int sampleRate, unsigned int bitDepth,
+           weak_ptr<ThreadSafe const> project, std::string const& file, double mediaStart, double mediaDuration,
+           unsigned int track, unsigned int channel);
+    AMFile(Range<long long> const& range, unsigned int sampleRate, unsigned int bitDepth,
+           weak_ptr<ThreadSafe const> project, std::string const& file, double mediaStart, double mediaDuration,
+           unsigned int track, ChannelSet const& channels);
+    // Merges the channels of medias of one source, track and media range; built from the
+    // set's first member.
+    explicit AMFile(std::set<shared_ptr<AMFile const> > const& members);
+    // One channel of another; raises when the other doesn't have it.
+    AMFile(shared_ptr<AMFile const> const& other, unsigned int channel);
+    AMFile(AMFile const& other);
+
+    std::string description() const override;
+    AMFile* clone() const override;
+    void receiveDispatcher(ConstMediaDispatcher* dispatcher) const override;
+    void receiveDispatcher(MediaDispatcher* dispatcher) override;
+    bool isInstanceOf(shared_ptr<Source const> source) const override;
+
+    virtual int numChannels() const;
+    // One media for each channel, in ascending channel order.
+    virtual shared_ptr<std::vector<shared_ptr<AMFile> > > splitChannels() const;
+
+    ChannelSet channels() const;
+    unsigned int trackNumber() const;
+    std::string fileName() const;
+    std::string containerFileName() const;
+    shared_ptr<Source const> source() const;
+
+    void xmlName(XMLable::Options& options) const override;
+    void xmlAttributes(XMLable::Options& options) const override;
+
+    // Ascending, separated by commas without blanks: "0,1".
+    static void writeChannels(std::ostream& out, ChannelSet const& channels);
+    static ChannelSet readChannels(std::istream& in);
+
+private:
+    std::string fileName_;
+    unsigned int trackNumber_;
+    shared_ptr<Source const> source_;
+    ChannelSet channels_;
+};
+
+}  // namespace ZelmarMediaLib
