@@ -1,6 +1,7 @@
 #pragma once
 // The whole public API of ZelmarMediaLib in one include.
 
+#include <ZelmarMediaLib/datatypes/AudioPosition.h>
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
 #include <ZelmarMediaLib/datatypes/Cloneable.h>
 #include <ZelmarMediaLib/datatypes/Color.h>
@@ -48,7 +49,19 @@
 #include <ZelmarMediaLib/parameters/Attributable.h>
 #include <ZelmarMediaLib/parameters/Attribute.h>
 #include <ZelmarMediaLib/parameters/Identified.h>
+#include <ZelmarMediaLib/parameters/InterpolatingParam.h>
+#include <ZelmarMediaLib/parameters/Interpolater.h>
+#include <ZelmarMediaLib/parameters/KeyFrame.h>
+#include <ZelmarMediaLib/parameters/KeyframeUtil.h>
+#include <ZelmarMediaLib/parameters/LeftParameter.h>
+#include <ZelmarMediaLib/parameters/Parameter.h>
+#include <ZelmarMediaLib/parameters/ParameterDispatcher.h>
+#include <ZelmarMediaLib/parameters/ParameterImpl.h>
+#include <ZelmarMediaLib/parameters/ParameterInterface.h>
+#include <ZelmarMediaLib/parameters/Parametric.h>
+#include <ZelmarMediaLib/parameters/ParametricTemporalDifferentiater.h>
 #include <ZelmarMediaLib/parameters/Transformer.h>
+#include <ZelmarMediaLib/parameters/VectorParam.h>
 
 #include <ZelmarMediaLib/effects/CompositeEffect.h>
 #include <ZelmarMediaLib/effects/Effect.h>
@@ -56,6 +69,25 @@
 #include <ZelmarMediaLib/effects/Effectable.h>
 #include <ZelmarMediaLib/effects/ParametricEffectableUtil.h>
 #include <ZelmarMediaLib/effects/VectorEffectable.h>
+
+#include <ZelmarMediaLib/edgemods/AuxEdgeModInfo.h>
+#include <ZelmarMediaLib/edgemods/EdgeModFunc.h>
+#include <ZelmarMediaLib/edgemods/EdgeModifiable.h>
+#include <ZelmarMediaLib/edgemods/EdgeModification.h>
+
+#include <ZelmarMediaLib/timeline/AMFile.h>
+#include <ZelmarMediaLib/timeline/AudioMedia.h>
+#include <ZelmarMediaLib/timeline/Media.h>
+#include <ZelmarMediaLib/timeline/MediaDispatcher.h>
+#include <ZelmarMediaLib/timeline/MediaEditor.h>
+#include <ZelmarMediaLib/timeline/MediaImpl.h>
+#include <ZelmarMediaLib/timeline/ParentedMedia.h>
+#include <ZelmarMediaLib/timeline/StaticEditor.h>
+#include <ZelmarMediaLib/timeline/SubTimeline.h>
+#include <ZelmarMediaLib/timeline/Temporal.h>
+#include <ZelmarMediaLib/timeline/TemporalEditor.h>
+#include <ZelmarMediaLib/timeline/TrackDispatcher.h>
+#include <ZelmarMediaLib/timeline/TrackSubSection.h>
 
 #include <ZelmarMediaLib/commands/Command.h>
 #include <ZelmarMediaLib/commands/CommandHandler.h>

@@ -15,6 +15,14 @@ int main() {
         std::cerr << "unexpected document:\n" << document.str();
         return 1;
     }
+    // Templates instantiated in the consumer against the installed headers.
+    zml::InterpolatingParam<double> opacity(project, "opacity");
+    opacity.addKeyFrame(0, 0.0);
+    opacity.addKeyFrame(10, 1.0);
+    if (opacity.valueAtTime(5.0) != 0.5) {
+        std::cerr << "unexpected value " << opacity.valueAtTime(5.0) << '\n';
+        return 1;
+    }
     std::cout << "consumer ok\n";
     return 0;
 }
