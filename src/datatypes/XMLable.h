@@ -12,7 +12,7 @@ class XMLable : public virtual XMLIdentified {
 public:
     // Passed by reference through the whole writing; every writer prints straight to the stream.
     struct Options {
-        explicit Options(std::ostream* stream = nullptr, std::string const& baseDirectory = std::string())
+        Options(std::ostream* stream = nullptr, std::string const& baseDirectory = std::string())
             : stream(stream), baseDirectory(baseDirectory) {}
 
         std::ostream* stream;
