@@ -76,6 +76,17 @@
 #include <ZelmarMediaLib/edgemods/EdgeModification.h>
 
 #include <ZelmarMediaLib/timeline/AMFile.h>
+#include <ZelmarMediaLib/timeline/AbstractIMFile.h>
+#include <ZelmarMediaLib/timeline/AudioTransition.h>
+#include <ZelmarMediaLib/timeline/Callout.h>
+#include <ZelmarMediaLib/timeline/FileRepresentation.h>
+#include <ZelmarMediaLib/timeline/ImageMedia.h>
+#include <ZelmarMediaLib/timeline/ImageTransition.h>
+#include <ZelmarMediaLib/timeline/TextBox.h>
+#include <ZelmarMediaLib/timeline/Transition.h>
+#include <ZelmarMediaLib/timeline/VMFile.h>
+#include <ZelmarMediaLib/timeline/VideoMedia.h>
+#include <ZelmarMediaLib/timeline/VisualMedia.h>
 #include <ZelmarMediaLib/timeline/AudioMedia.h>
 #include <ZelmarMediaLib/timeline/Media.h>
 #include <ZelmarMediaLib/timeline/MediaDispatcher.h>

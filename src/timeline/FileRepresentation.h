@@ -1,0 +1,14 @@
+#pragma once
+// A media that stands for a file: the file's own name and the container it lives in.
+#include <string>
+
+namespace ZelmarMediaLib {
+
+class FileRepresentation {
+public:
+    virtual ~FileRepresentation() = default;
+    virtual std::string fileName() const = 0;
+    virtual std::string containerFileName() const = 0;
+};
+
+}  // namespace ZelmarMediaLib
