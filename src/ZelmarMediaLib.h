@@ -9,6 +9,8 @@
 #include <ZelmarMediaLib/datatypes/EncodingConverter.h>
 #include <ZelmarMediaLib/datatypes/GraphicsUtil.h>
 #include <ZelmarMediaLib/datatypes/IdentManager.h>
+#include <ZelmarMediaLib/datatypes/LinkCloneUtil.h>
+#include <ZelmarMediaLib/datatypes/LinkUtil.h>
 #include <ZelmarMediaLib/datatypes/MTVector.h>
 #include <ZelmarMediaLib/datatypes/NotifyDelay.h>
 #include <ZelmarMediaLib/datatypes/Observer.h>
@@ -99,6 +101,16 @@
 #include <ZelmarMediaLib/timeline/TemporalEditor.h>
 #include <ZelmarMediaLib/timeline/TrackDispatcher.h>
 #include <ZelmarMediaLib/timeline/TrackSubSection.h>
+#include <ZelmarMediaLib/timeline/AbstractVisualTrack.h>
+#include <ZelmarMediaLib/timeline/AudioMixer.h>
+#include <ZelmarMediaLib/timeline/AudioTrack.h>
+#include <ZelmarMediaLib/timeline/ImageTrack.h>
+#include <ZelmarMediaLib/timeline/Mixer.h>
+#include <ZelmarMediaLib/timeline/Timeline.h>
+#include <ZelmarMediaLib/timeline/Track.h>
+#include <ZelmarMediaLib/timeline/TypedMediaMap.h>
+#include <ZelmarMediaLib/timeline/VisualMixer.h>
+#include <ZelmarMediaLib/timeline/VisualTrack.h>
 
 #include <ZelmarMediaLib/commands/Command.h>
 #include <ZelmarMediaLib/commands/CommandHandler.h>

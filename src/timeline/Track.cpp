@@ -1,0 +1,611 @@
+#include <ZelmarMediaLib/timeline/Track.h>
+
+#include <ZelmarMediaLib/datatypes/ReadWriteMutex.h>
+#include <ZelmarMediaLib/datatypes/UpdateCollector.h>
+#include <ZelmarMediaLib/edgemods/EdgeModification.h>
+#include <ZelmarMediaLib/effects/Effect.h>
+#include <ZelmarMediaLib/effects/VectorEffectable.h>
+#include <ZelmarMediaLib/exceptions/CollisionException.h>
+#include <ZelmarMediaLib/exceptions/LinkException.h>
+#include <ZelmarMediaLib/exceptions/ValueException.h>
+#include <ZelmarMediaLib/timeline/Media.h>
+#include <ZelmarMediaLib/timeline/ParentedMedia.h>
+
+#include <iterator>
+#include <ostream>
+
+namespace ZelmarMediaLib {
+
+namespace {
+
+char const* const notFoundText = "media not found in track";
+char const* const parentedText = "trying to edit parented media like a parentless media";
+char const* const notToRemoveText = "can't find media to remove";
+
+Media const& requireMedia(shared_ptr<Media const> const& media) {
+    if (!media)
+        throw ValueException<shared_ptr<Media const> >(notFoundText, media);
+    return *media;
+}
+
+void assertParentless(shared_ptr<Media> const& media) {
+    if (!media->parentTrack().expired())
+        throw ValueException<shared_ptr<Media> >(parentedText, media);
+}
+
+void assertParented(shared_ptr<Media> const& media) {
+    if (!media)
+        throw ValueException<shared_ptr<Media> >("trying to edit a parentless media like a parented media", media);
+    ParentedMedia(media).assertParented();
+}
+
+// The first library failure ends the walk and is swallowed: the edits made so far stay, and
+// the caller sees success. Failures of other kinds pass.
+template <class Edit>
+void editLinkedMedias(Track const& track, shared_ptr<Media> const& media, Edit edit) {
+    // A copy, so that an observer that touches the links can't upset the walk.
+    Media::LinkList const links(media->linkBegin(), media->linkEnd());
+    try {
+        for (weak_ptr<Media> const& link : links) {
+            std::pair<shared_ptr<Media>, shared_ptr<Track> > const linked = track.lockMediaAndTrack<Media, Track>(link);
+            edit(*linked.second, linked.first);
+        }
+    } catch (ZelmarMediaLibException const&) {
+    }
+}
+
+void removeLeftEdgeMods(shared_ptr<Media> const& media) {
+    for (EdgeModification const& modification : media->leftEdgeModifications())
+        media->removeLeftEdgeModification(modification.parameter());
+}
+
+void removeRightEdgeMods(shared_ptr<Media> const& media) {
+    for (EdgeModification const& modification : media->rightEdgeModifications())
+        media->removeRightEdgeModification(modification.parameter());
+}
+
+struct IgnoreNone {
+    bool operator()(shared_ptr<Media const> const&) const { return false; }
+};
+
+struct IgnoreOne {
+    Media const* ignored;
+    bool operator()(shared_ptr<Media const> const& media) const { return media.get() == ignored; }
+};
+
+struct IgnoreSome {
+    std::set<shared_ptr<Media const> > const* ignored;
+    bool operator()(shared_ptr<Media const> const& media) const { return ignored->count(media) != 0; }
+};
+
+}  // namespace
+
+Track::Track(weak_ptr<ThreadSafe const> project) : SubTimeline(project), effects_(new VectorEffectable) {}
+
+Track::Track(Track const& other)
+    : XMLIdentified(other),
+      SubTimeline(other),
+      enable_shared_from_this<Track>(),
+      effects_(other.effects_->clone()) {}
+
+Track::~Track() = default;
+
+void Track::xmlOfParameters(XMLable::Options&, int) const {}
+
+int Track::addEffect(shared_ptr<Effect> effect) {
+    int const index = effects_->addEffect(effect);
+    notify();
+    return index;
+}
+
+void Track::insertEffect(shared_ptr<Effect> effect, int index) {
+    effects_->insertEffect(effect, index);
+    notify();
+}
+
+void Track::swapEffectOrder(int first, int second) {
+    effects_->swapEffectOrder(first, second);
+    notify();
+}
+
+EffectRemoval Track::removeEffect(shared_ptr<Effect const> effect) {
+    EffectRemoval const removal = effects_->removeEffect(effect);
+    notify();
+    return removal;
+}
+
+EffectRemoval Track::removeEffect(int index) {
+    EffectRemoval const removal = effects_->removeEffect(index);
+    notify();
+    return removal;
+}
+
+shared_ptr<Effect> Track::effectAtIndex(int index) {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    return effects_->effectAtIndex(index);
+}
+
+shared_ptr<Effect const> Track::effectAtIndex(int index) const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    return effects_->effectAtIndex(index);
+}
+
+int Track::numEffects() const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    return effects_->numEffects();
+}
+
+double Track::toParameterTime(double time) const {
+    return time;
+}
+
+double Track::fromParameterTime(double time) const {
+    return time;
+}
+
+long long Track::fromGlobalToParametricTime(long long time) const {
+    return time;
+}
+
+int Track::numParameters() const {
+    return 0;
+}
+
+// The map is sorted and holds no overlaps, so two entries give the span.
+long long Track::endTime() const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    MediaMap const& store = medias();
+    return store.empty() ? 0 : store.rbegin()->second->trackRange().end();
+}
+
+long long Track::startTime() const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    MediaMap const& store = medias();
+    return store.empty() ? 0 : store.begin()->second->trackRange().start;
+}
+
+long long Track::duration() const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    return endTime() - startTime();
+}
+
+void Track::notify() const {
+    UpdateCollector* collector = UpdateCollector::instance();
+    if (collector->isCollecting()) {
+        // Aliased on the track, so that the collection keeps it alive to the end.
+        collector->addObservable(shared_ptr<Observable const>(shared_from_this(), static_cast<Observable const*>(this)));
+        return;
+    }
+    Subject::notify();
+}
+
+void Track::xmlName(XMLable::Options& options) const {
+    *options.stream << "Track";
+}
+
+void Track::xmlAttributes(XMLable::Options&) const {}
+
+void Track::xmlBody(XMLable::Options& options, int indent) const {
+    xmlOfParametersEffectsAttributes(options, indent);
+    std::ostream& out = *options.stream;
+    std::string const blanks = genIndent(indent);
+    out << blanks << "<Medias>\n";
+    for (MediaMap::value_type const& entry : medias())
+        entry.second->toXML(options, indent + 1, "");
+    out << blanks << "</Medias>\n";
+}
+
+void Track::setupSharedClone(shared_ptr<Track> clone) const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    for (MediaMap::value_type const& entry : medias())
+        clone->addMedia(sharedClone(entry.second), entry.second->trackRange().start);
+}
+
+ConstIterator<Track::MediaMap> Track::mediaBegin() const {
+    // The lock comes first, so that the position is taken under it.
+    shared_ptr<ReadWriteMutex::ScopedReadLock> lock = boost::make_shared<ReadWriteMutex::ScopedReadLock>(&mutex());
+    return ConstIterator<MediaMap>(medias().cbegin(), lock);
+}
+
+ConstIterator<Track::MediaMap> Track::mediaEnd() const {
+    shared_ptr<ReadWriteMutex::ScopedReadLock> lock = boost::make_shared<ReadWriteMutex::ScopedReadLock>(&mutex());
+    return ConstIterator<MediaMap>(medias().cend(), lock);
+}
+
+ConstRIterator<Track::MediaMap> Track::mediaRBegin() const {
+    shared_ptr<ReadWriteMutex::ScopedReadLock> lock = boost::make_shared<ReadWriteMutex::ScopedReadLock>(&mutex());
+    return ConstRIterator<MediaMap>(medias().crbegin(), lock);
+}
+
+ConstRIterator<Track::MediaMap> Track::mediaREnd() const {
+    shared_ptr<ReadWriteMutex::ScopedReadLock> lock = boost::make_shared<ReadWriteMutex::ScopedReadLock>(&mutex());
+    return ConstRIterator<MediaMap>(medias().crend(), lock);
+}
+
+ConstIterator<Track::MediaMap> Track::lower_bound(long long time) const {
+    shared_ptr<ReadWriteMutex::ScopedReadLock> lock = boost::make_shared<ReadWriteMutex::ScopedReadLock>(&mutex());
+    return ConstIterator<MediaMap>(medias().lower_bound(time), lock);
+}
+
+ConstIterator<Track::MediaMap> Track::upper_bound(long long time) const {
+    shared_ptr<ReadWriteMutex::ScopedReadLock> lock = boost::make_shared<ReadWriteMutex::ScopedReadLock>(&mutex());
+    return ConstIterator<MediaMap>(medias().upper_bound(time), lock);
+}
+
+Track::MediaMap::iterator Track::mediaBegin() {
+    return medias().begin();
+}
+
+Track::MediaMap::iterator Track::mediaEnd() {
+    return medias().end();
+}
+
+Track::MediaMap::reverse_iterator Track::mediaRBegin() {
+    return medias().rbegin();
+}
+
+Track::MediaMap::reverse_iterator Track::mediaREnd() {
+    return medias().rend();
+}
+
+int Track::numMedias() const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    return static_cast<int>(medias().size());
+}
+
+bool Track::hasMedia(shared_ptr<Media const> media) const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    return findMedia(media) != nullptr;
+}
+
+shared_ptr<Media const> Track::findMedia(shared_ptr<Media const> media) const {
+    if (!media)
+        return shared_ptr<Media const>();
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    MediaMap const& store = medias();
+    MediaMap::const_iterator const entry = store.find(media->trackRange().start);
+    if (entry == store.end() || entry->second != media)
+        return shared_ptr<Media const>();
+    return entry->second;
+}
+
+shared_ptr<Media> Track::findMedia(shared_ptr<Media const> media) {
+    return const_pointer_cast<Media>(static_cast<Track const*>(this)->findMedia(media));
+}
+
+bool Track::hasInstanceOf(shared_ptr<Source const> source) const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    for (MediaMap::value_type const& entry : medias()) {
+        if (entry.second->isInstanceOf(source))
+            return true;
+    }
+    return false;
+}
+
+shared_ptr<Track::MediaList> Track::instancesOf(shared_ptr<Source const> source) const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    shared_ptr<MediaList> instances = boost::make_shared<MediaList>();
+    for (MediaMap::value_type const& entry : medias()) {
+        if (entry.second->isInstanceOf(source))
+            instances->push_back(entry.second);
+    }
+    return instances;
+}
+
+Pair<shared_ptr<Media const> > Track::mediaAtTime(long long time) const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    MediaMap const& store = medias();
+    Pair<shared_ptr<Media const> > result;
+    if (store.empty())
+        return result;
+    // The last media that starts at or before the time, or the first of all.
+    MediaMap::const_iterator at = store.upper_bound(time);
+    if (at != store.begin())
+        --at;
+    shared_ptr<Media const> const media = at->second;
+    Range<long long> const range = media->timeRange();
+    if (range.start < time && time < range.end())
+        return Pair<shared_ptr<Media const> >(media, media);
+    if (time == range.end()) {
+        MediaMap::const_iterator const next = std::next(at);
+        if (next != store.end() && next->second->timeRange().start == time)
+            return Pair<shared_ptr<Media const> >(media, next->second);
+        return Pair<shared_ptr<Media const> >(media, shared_ptr<Media const>());
+    }
+    if (time == range.start) {
+        if (at != store.begin()) {
+            MediaMap::const_iterator const previous = std::prev(at);
+            if (previous->second->timeRange().end() == time)
+                return Pair<shared_ptr<Media const> >(previous->second, media);
+        }
+        return Pair<shared_ptr<Media const> >(shared_ptr<Media const>(), media);
+    }
+    return result;
+}
+
+Pair<shared_ptr<Media> > Track::mediaAtTime(long long time) {
+    Pair<shared_ptr<Media const> > const found = static_cast<Track const*>(this)->mediaAtTime(time);
+    return Pair<shared_ptr<Media> >(const_pointer_cast<Media>(found.first), const_pointer_cast<Media>(found.second));
+}
+
+// The caller holds the read lock. The queries read each media's range through its lock-free
+// Temporal side: the read lock is already held, and these run on every lookup.
+template <class Ignore>
+void Track::collectIntersecting(Range<long long> const& range, Ignore const& ignore, MediaList& hits) const {
+    // Nothing has a positive overlap with an empty range. Returning here also keeps a
+    // negative duration from putting the stop before the first entry.
+    if (range.duration <= 0)
+        return;
+    MediaMap const& store = medias();
+    long long const end = range.end();
+    MediaMap::const_iterator at = store.upper_bound(range.start);
+    // One step back takes in a media that begins before the range and reaches into it; none
+    // further back can, since medias don't overlap.
+    if (at != store.begin())
+        --at;
+    // Walking up to the last key at or before the end reaches the same entries as a second
+    // search for the end would, at half the cost on a large track.
+    for (; at != store.end() && at->first <= end; ++at) {
+        if (ignore(at->second))
+            continue;
+        if (range.intersection(at->second->timeRange()).duration > 0)
+            hits.push_back(at->second);
+    }
+}
+
+shared_ptr<Track::MediaList> Track::mediasIntersectingRange(Range<long long> const& range,
+                                                            std::set<shared_ptr<Media const> > const& ignored) const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    shared_ptr<MediaList> hits = boost::make_shared<MediaList>();
+    collectIntersecting(range, IgnoreSome{&ignored}, *hits);
+    return hits;
+}
+
+shared_ptr<Track::MediaList> Track::mediasIntersectingRange(Range<long long> const& range,
+                                                            MediaList const& ignored) const {
+    return mediasIntersectingRange(range, std::set<shared_ptr<Media const> >(ignored.begin(), ignored.end()));
+}
+
+shared_ptr<Track::MediaList> Track::mediasIntersectingRange(Range<long long> const& range,
+                                                            shared_ptr<Media const> ignored) const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    shared_ptr<MediaList> hits = boost::make_shared<MediaList>();
+    if (ignored)
+        collectIntersecting(range, IgnoreOne{ignored.get()}, *hits);
+    else
+        collectIntersecting(range, IgnoreNone(), *hits);
+    return hits;
+}
+
+shared_ptr<std::list<shared_ptr<Media> > > Track::mediasIntersectingRange(Range<long long> const& range,
+                                                                          shared_ptr<Media const> ignored) {
+    shared_ptr<MediaList> const hits = static_cast<Track const*>(this)->mediasIntersectingRange(range, ignored);
+    shared_ptr<std::list<shared_ptr<Media> > > result = boost::make_shared<std::list<shared_ptr<Media> > >();
+    for (shared_ptr<Media const> const& media : *hits)
+        result->push_back(const_pointer_cast<Media>(media));
+    return result;
+}
+
+bool Track::intersectionAtRange(Range<long long> const& range) const {
+    if (range.duration <= 0)
+        return false;
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    MediaMap const& store = medias();
+    long long const end = range.end();
+    MediaMap::const_iterator at = store.upper_bound(range.start);
+    if (at != store.begin())
+        --at;
+    for (; at != store.end() && at->first <= end; ++at) {
+        if (range.intersection(at->second->timeRange()).duration > 0)
+            return true;
+    }
+    return false;
+}
+
+shared_ptr<Track::MediaList> Track::collidingMedia(shared_ptr<Media const> media, Range<long long> const& range,
+                                                   bool withLinks) const {
+    shared_ptr<MediaList> colliding = mediasIntersectingRange(range, media);
+    if (!withLinks || !media)
+        return colliding;
+    Range<long long> const own = media->trackRange();
+    for (ConstIterator<Media::LinkList> link = media->linkBegin(), end = media->linkEnd(); link != end; ++link) {
+        std::pair<shared_ptr<Media const>, shared_ptr<Track const> > const linked =
+            lockMediaAndTrack<Media const, Track const>(weak_ptr<Media const>(*link));
+        Range<long long> const linkedRange = linked.first->trackRange();
+        if (linkedRange != own)
+            throw LinkException(own, linkedRange);
+        colliding->splice(colliding->end(), *linked.second->mediasIntersectingRange(range, linked.first));
+    }
+    return colliding;
+}
+
+shared_ptr<Media> Track::checkOwnershipAndCollisions(shared_ptr<Media const> media, Range<long long> const& range,
+                                                     bool withLinks) {
+    shared_ptr<Media> const owned = findMedia(media);
+    if (!owned)
+        throw ValueException<shared_ptr<Media const> >(notFoundText, media);
+    shared_ptr<MediaList> const colliding = collidingMedia(media, range, withLinks);
+    if (!colliding->empty())
+        throw CollisionException(colliding);
+    return owned;
+}
+
+void Track::relocateMedia(shared_ptr<Media> media, long long oldStart, long long newStart) {
+    MediaMap& store = medias();
+    store.erase(oldStart);
+    MediaMap::iterator const hint = store.lower_bound(newStart);
+    if (hint != store.end() && hint->first == newStart)
+        hint->second = media;
+    else
+        store.emplace_hint(hint, newStart, media);
+}
+
+void Track::addMediaSansTypeCheck(shared_ptr<Media> media, long long start) {
+    // Taken first, so that a track that no shared_ptr holds is refused before any change.
+    shared_ptr<Track> const self = shared_from_this();
+    Range<long long> const range(start, media->trackRange().duration);
+    shared_ptr<MediaList> const colliding =
+        static_cast<Track const*>(this)->mediasIntersectingRange(range, shared_ptr<Media const>());
+    if (!colliding->empty())
+        throw CollisionException(colliding);
+    // A media of no duration collides with nothing, so one standing at start is overwritten.
+    medias()[start] = media;
+    // A parented media is refused only once its entry stands, and the entry is not taken
+    // back: adding a media that lives on a track is the caller's fault, not repaired here.
+    assertParentless(media);
+    media->setTrackStart(start);
+    media->setParentTrack(self);
+    notify();
+}
+
+void Track::removeMedia(shared_ptr<Media> media, bool removeLinked) {
+    if (!media)
+        throw ValueException<shared_ptr<Media> >(notToRemoveText, media);
+    MediaMap& store = medias();
+    MediaMap::iterator const entry = store.find(media->trackRange().start);
+    if (entry == store.end())
+        throw ValueException<shared_ptr<Media> >(notToRemoveText, media);
+    // Every linked media must be alive and found on this track before anything is erased.
+    // Linked medias share their start, so one that sits on this track under the removed
+    // media's key is not there to remove.
+    std::vector<shared_ptr<Media> > linkedMedias;
+    if (removeLinked) {
+        shared_ptr<Media const> const removed = entry->second;
+        for (ConstIterator<Media::LinkList> link = removed->linkBegin(), end = removed->linkEnd(); link != end;
+             ++link) {
+            shared_ptr<Media> const linked = link->lock();
+            if (!linked)
+                throw ZelmarMediaLibException("dead link when removing a media from a track");
+            MediaMap::iterator const found = store.find(linked->trackRange().start);
+            if (found == store.end() || found == entry)
+                throw ValueException<shared_ptr<Media> >(notToRemoveText, linked);
+            linkedMedias.push_back(linked);
+        }
+    }
+    store.erase(entry);
+    for (shared_ptr<Media> const& linked : linkedMedias)
+        removeMedia(linked, false);
+    media->setParentTrack(weak_ptr<Track>());
+    notify();
+}
+
+void Track::move(shared_ptr<Media const> media, long long offset, bool withLinks) {
+    Range<long long> const range = requireMedia(media).trackRangeWithMove(offset);
+    moveSansCollision(checkOwnershipAndCollisions(media, range, withLinks), offset, withLinks);
+}
+
+void Track::trimStart(shared_ptr<Media const> media, long long offset, bool withLinks) {
+    Range<long long> const range = requireMedia(media).trackRangeWithTrimStart(offset);
+    trimStartSansCollision(checkOwnershipAndCollisions(media, range, withLinks), offset, withLinks);
+}
+
+void Track::trimEnd(shared_ptr<Media const> media, long long offset, bool withLinks) {
+    Range<long long> const range = requireMedia(media).trackRangeWithTrimEnd(offset);
+    trimEndSansCollision(checkOwnershipAndCollisions(media, range, withLinks), offset, withLinks);
+}
+
+double Track::stretch(shared_ptr<Media const> media, double wanted, bool withLinks) {
+    Range<long long> const range = requireMedia(media).trackRangeWithStretch(wanted);
+    return stretchSansCollision(checkOwnershipAndCollisions(media, range, withLinks), wanted, withLinks);
+}
+
+void Track::moveSansCollision(shared_ptr<Media> media, long long offset, bool withLinks) {
+    assertParented(media);
+    long long const oldStart = media->trackRange().start;
+    media->move(offset);
+    relocateMedia(media, oldStart, media->trackRange().start);
+    if (withLinks)
+        editLinkedMedias(*this, media, [offset](Track& track, shared_ptr<Media> const& linked) {
+            track.moveSansCollision(linked, offset, false);
+        });
+}
+
+void Track::trimStartSansCollision(shared_ptr<Media> media, long long offset, bool withLinks) {
+    assertParented(media);
+    long long const oldStart = media->trackRange().start;
+    media->trimStart(offset);
+    relocateMedia(media, oldStart, media->trackRange().start);
+    if (withLinks)
+        editLinkedMedias(*this, media, [offset](Track& track, shared_ptr<Media> const& linked) {
+            track.trimStartSansCollision(linked, offset, false);
+        });
+}
+
+void Track::trimEndSansCollision(shared_ptr<Media> media, long long offset, bool withLinks) {
+    assertParented(media);
+    media->trimEnd(offset);
+    if (withLinks)
+        editLinkedMedias(*this, media, [offset](Track& track, shared_ptr<Media> const& linked) {
+            track.trimEndSansCollision(linked, offset, false);
+        });
+}
+
+double Track::stretchSansCollision(shared_ptr<Media> media, double wanted, bool withLinks) {
+    assertParented(media);
+    double const scalar = media->stretch(wanted);
+    // The linked medias are asked for the same speed, not handed the one reached here.
+    if (withLinks)
+        editLinkedMedias(*this, media, [wanted](Track& track, shared_ptr<Media> const& linked) {
+            track.stretchSansCollision(linked, wanted, false);
+        });
+    return scalar;
+}
+
+//        range:      [-------------]
+//   original:   [====A====]   [====B====]
+//   result:          [=A'=]   [=B'=]        at the same global times
+shared_ptr<Track> Track::copyPortion(Range<long long> const& range, CloneMap* cloneMap) const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    shared_ptr<Track> result(clone());
+    shared_ptr<TrackSubSection<Media> > const section = subSectionImpl(this, range);
+    for (TrackSubSection<Media>::MediaRange const& entry : *section) {
+        shared_ptr<Media const> const& media = entry.first;
+        Range<long long> const& part = entry.second;
+        shared_ptr<Media> const copy = sharedClone(media);
+        assertParentless(copy);
+        copy->trimStart(part.start - media->trackRange().start);
+        assertParentless(copy);
+        Range<long long> const trimmed = copy->trackRange();
+        copy->trimEnd(trimmed.start + trimmed.duration - part.duration - part.start);
+        setupCloneEdgeMods(range, media, copy);
+        result->addMedia(copy, copy->trackRange().start);
+        if (cloneMap)
+            (*cloneMap)[media] = copy;
+    }
+    return result;
+}
+
+shared_ptr<Track> Track::copyPortion(std::vector<shared_ptr<Media const> > const& medias, CloneMap* cloneMap) const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    shared_ptr<Track> result(clone());
+    for (shared_ptr<Media const> const& media : medias) {
+        shared_ptr<Media> const copy = sharedClone(media);
+        result->addMedia(copy, media->trackRange().start);
+        if (cloneMap)
+            (*cloneMap)[media] = copy;
+    }
+    return result;
+}
+
+void Track::setupCloneEdgeMods(Range<long long> const& range, shared_ptr<Media const> const& media,
+                               shared_ptr<Media> const& clone) const {
+    Range<long long> const source = media->trackRange();
+    long long const left = media->leftEdgeModificationLength();
+    long long const keptLeft = Range<long long>(source.start, left).intersection(range).duration;
+    if (keptLeft < left) {
+        removeLeftEdgeMods(clone);
+        clone->setLeftEdgeModificationLength(keptLeft);
+    }
+    long long const right = media->rightEdgeModificationLength();
+    long long const keptRight = Range<long long>(source.end() - right, right).intersection(range).duration;
+    if (keptRight < right) {
+        removeRightEdgeMods(clone);
+        clone->setRightEdgeModificationLength(keptRight);
+    }
+}
+
+Range<long long> Track::trackRangeOf(shared_ptr<Media const> const& media) {
+    return media->trackRange();
+}
+
+}  // namespace ZelmarMediaLib
