@@ -10,6 +10,7 @@ packages=(
   libboost-thread-dev libboost-system-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   libxml2-dev
+  libavformat-dev libavcodec-dev libavutil-dev
 )
 
 missing=()

@@ -112,6 +112,11 @@
 #include <ZelmarMediaLib/timeline/VisualMixer.h>
 #include <ZelmarMediaLib/timeline/VisualTrack.h>
 
+#include <ZelmarMediaLib/clipbin/AVFormatStatsLoader.h>
+#include <ZelmarMediaLib/clipbin/MediaFileStats.h>
+#include <ZelmarMediaLib/clipbin/MediaFileStatsPosix.h>
+#include <ZelmarMediaLib/clipbin/StatsLoader.h>
+
 #include <ZelmarMediaLib/commands/Command.h>
 #include <ZelmarMediaLib/commands/CommandHandler.h>
 #include <ZelmarMediaLib/commands/CommandHistory.h>

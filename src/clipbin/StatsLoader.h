@@ -1,0 +1,20 @@
+#pragma once
+// How the figures of a media file are read: the library's default loader, or an application's own.
+#include <string>
+
+namespace ZelmarMediaLib {
+
+class MediaFileStats;
+
+// Not a ZelmarObject. Loaders are owned by the application (the default one by the process):
+// the library keeps pointers to them for the life of the process and never deletes them.
+class StatsLoader {
+public:
+    virtual ~StatsLoader() = default;
+    // Must not throw: every loader is asked about every file that is opened.
+    virtual bool canOpenFile(std::string const& path) = 0;
+    // Fills in stats, which is never null; raises IOException when the file can't be read.
+    virtual void loadStats(std::string const& path, MediaFileStats* stats) = 0;
+};
+
+}  // namespace ZelmarMediaLib
