@@ -87,6 +87,7 @@
 #include <ZelmarMediaLib/timeline/TextBox.h>
 #include <ZelmarMediaLib/timeline/Transition.h>
 #include <ZelmarMediaLib/timeline/VMFile.h>
+#include <ZelmarMediaLib/timeline/VisualFileMedia.h>
 #include <ZelmarMediaLib/timeline/VideoMedia.h>
 #include <ZelmarMediaLib/timeline/VisualMedia.h>
 #include <ZelmarMediaLib/timeline/AudioMedia.h>
@@ -115,6 +116,9 @@
 #include <ZelmarMediaLib/clipbin/AVFormatStatsLoader.h>
 #include <ZelmarMediaLib/clipbin/MediaFileStats.h>
 #include <ZelmarMediaLib/clipbin/MediaFileStatsPosix.h>
+#include <ZelmarMediaLib/clipbin/Source.h>
+#include <ZelmarMediaLib/clipbin/SourceBin.h>
+#include <ZelmarMediaLib/clipbin/SourceBinSentry.h>
 #include <ZelmarMediaLib/clipbin/StatsLoader.h>
 
 #include <ZelmarMediaLib/commands/Command.h>

@@ -59,7 +59,7 @@ std::string MediaFileStats::description() const {
     return out.str();
 }
 
-std::string MediaFileStats::filename() const {
+std::string const& MediaFileStats::filename() const {
     return filename_;
 }
 

@@ -43,7 +43,7 @@ public:
     ~MediaFileStats() override;
     std::string description() const override;
 
-    std::string filename() const;
+    std::string const& filename() const;
     void setFilename(std::string const& filename);
     Rect<int> rect() const;
     void setRect(Rect<int> const& rect);

@@ -1,11 +1,14 @@
 #include <ZelmarMediaLib/project/InternalProject.h>
 
+#include <ZelmarMediaLib/clipbin/Source.h>
+#include <ZelmarMediaLib/clipbin/SourceBin.h>
 #include <ZelmarMediaLib/commands/Command.h>
 #include <ZelmarMediaLib/commands/CommandHistory.h>
 #include <ZelmarMediaLib/datatypes/NotifyDelay.h>
 #include <ZelmarMediaLib/datatypes/ReadWriteMutex.h>
 #include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
 #include <ZelmarMediaLib/project/CommandObserver.h>
+#include <ZelmarMediaLib/timeline/Timeline.h>
 
 #include <ostream>
 
@@ -28,6 +31,7 @@ InternalProject::InternalProject(InternalProject const& other)
       Project(other),
       CommandHandler(other),
       enable_shared_from_this<InternalProject>(),
+      timeline_(other.timeline_ ? other.timeline_->clone() : nullptr),
       commandHistory_(other.commandHistory_->clone()),
       editRate_(other.editRate_),
       version_(defaultVersion),
@@ -49,9 +53,11 @@ shared_ptr<InternalProject> InternalProject::create(rational<unsigned long> edit
 }
 
 void InternalProject::init() {
-    // Raises bad_weak_ptr unless the project already lives in a shared_ptr.
-    shared_ptr<InternalProject> self = shared_from_this();
-    (void)self;
+    // Raises bad_weak_ptr unless the project already lives in a shared_ptr. The model holds
+    // only weak references to the project, so that the project owns it without a cycle.
+    shared_ptr<InternalProject> const self = shared_from_this();
+    sourceBin_ = boost::make_shared<SourceBin>(weak_ptr<ThreadSafe const>(self), weak_ptr<ProjectEditRate>(self));
+    timeline_ = boost::make_shared<Timeline>(weak_ptr<ThreadSafe const>(self));
 }
 
 std::string InternalProject::description() const {
@@ -80,6 +86,11 @@ void InternalProject::xmlBody(XMLable::Options& options, int indent) const {
     out << blanks << "<Author>" << author_ << "</Author>\n";
     out << blanks << "<Comment>" << comment_ << "</Comment>\n";
     out << blanks << "<System>" << system_ << "</System>\n";
+    // At the level received, unlike most bodies, which go one deeper.
+    if (sourceBin_)
+        sourceBin_->toXML(options, indent, "");
+    if (timeline_)
+        timeline_->toXML(options, indent, "");
 }
 
 bool InternalProject::execute(shared_ptr<Command> command) {
@@ -148,6 +159,28 @@ void InternalProject::detachCommandObserver(CommandObserver* observer) {
     if (observer != commandObserver_)
         throw ZelmarMediaLibException("trying to detach a non observer");
     commandObserver_ = nullptr;
+}
+
+shared_ptr<Timeline> InternalProject::timeline() const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    return timeline_;
+}
+
+shared_ptr<SourceBin> InternalProject::sourceBin() const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    return sourceBin_;
+}
+
+void InternalProject::changeSourcesFile(shared_ptr<Source const> source, std::string const& path) {
+    if (!source)
+        throw ZelmarMediaLibException("attempting to change the file of a null source");
+    const_pointer_cast<Source>(source)->changeFile(path);
+}
+
+void InternalProject::addSourceBinSentry(shared_ptr<SourceBinSentry> sentry) {
+    if (!sourceBin_)
+        throw ZelmarMediaLibException("a project clone has no source bin");
+    sourceBin_->addSentry(sentry);
 }
 
 shared_ptr<CommandHistory> InternalProject::commandHistory() const {

@@ -11,6 +11,8 @@
 namespace ZelmarMediaLib {
 
 class ReadWriteMutex;
+class SourceBin;
+class Timeline;
 
 class InternalProject : public virtual ZelmarObject,
                         public virtual Cloneable,
@@ -25,7 +27,8 @@ public:
     ~InternalProject() override;
 
     std::string description() const override;
-    // A deliberately partial copy: a cloned history bound to the copy, no lock, no observer.
+    // A deliberately partial copy: a cloned timeline, a cloned history bound to the copy, no
+    // source bin, no lock, no observer.
     InternalProject* clone() const override;
 
     void xmlName(XMLable::Options& options) const override;
@@ -41,7 +44,12 @@ public:
     void restoreCommandState(CommandHistoryState const& state) override;
     void attachCommandObserver(CommandObserver* observer) override;
     void detachCommandObserver(CommandObserver* observer) override;
+    shared_ptr<Timeline> timeline() const override;
+    shared_ptr<SourceBin> sourceBin() const override;
     shared_ptr<CommandHistory> commandHistory() const override;
+    // A null source is refused.
+    void changeSourcesFile(shared_ptr<Source const> source, std::string const& path) override;
+    void addSourceBinSentry(shared_ptr<SourceBinSentry> sentry) override;
 
     rational<unsigned long> editRate() const override;
     // A clone has no lock: asking it for one raises.
@@ -65,12 +73,14 @@ protected:
     InternalProject(InternalProject const& other);
     InternalProject& operator=(InternalProject const&);
 
-    // Makes the model objects that the project owns.
+    // Makes the model objects that the project owns: the source bin, then the timeline.
     void init();
 
 private:
     void setText(std::string& field, std::string const& value);
 
+    shared_ptr<Timeline> timeline_;
+    shared_ptr<SourceBin> sourceBin_;
     shared_ptr<CommandHistory> commandHistory_;
     rational<unsigned long> editRate_;
     std::string author_;

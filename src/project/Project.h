@@ -7,11 +7,17 @@
 #include <ZelmarMediaLib/datatypes/ThreadSafe.h>
 #include <ZelmarMediaLib/datatypes/XMLable.h>
 
+#include <string>
+
 namespace ZelmarMediaLib {
 
 class Command;
 class CommandHistory;
 class CommandObserver;
+class Source;
+class SourceBin;
+class SourceBinSentry;
+class Timeline;
 
 // Every change goes through execute(); each call is complete when it returns.
 class Project : public XMLable, public virtual ThreadSafe, public ProjectEditRate, public Subject {
@@ -34,7 +40,14 @@ public:
     // One observer at a time.
     virtual void attachCommandObserver(CommandObserver* observer) = 0;
     virtual void detachCommandObserver(CommandObserver* observer) = 0;
+    // The model that the project owns, for reading; it changes only through commands.
+    virtual shared_ptr<Timeline> timeline() const = 0;
+    virtual shared_ptr<SourceBin> sourceBin() const = 0;
     virtual shared_ptr<CommandHistory> commandHistory() const = 0;
+    // Not commands, and not undone: the source that the handle names is pointed at another
+    // file of the same kind, and a sentry joins the source bin. Neither takes the lock.
+    virtual void changeSourcesFile(shared_ptr<Source const> source, std::string const& path) = 0;
+    virtual void addSourceBinSentry(shared_ptr<SourceBinSentry> sentry) = 0;
 };
 
 }  // namespace ZelmarMediaLib

@@ -1,8 +1,11 @@
 #include <ZelmarMediaLib/timeline/AMFile.h>
 
+#include <ZelmarMediaLib/clipbin/MediaFileStats.h>
+#include <ZelmarMediaLib/clipbin/Source.h>
 #include <ZelmarMediaLib/datatypes/ReadWriteMutex.h>
 #include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
 #include <ZelmarMediaLib/timeline/MediaDispatcher.h>
+#include <ZelmarMediaLib/timeline/VisualFileMedia.h>
 
 #include <istream>
 #include <ostream>
@@ -19,6 +22,26 @@ shared_ptr<AMFile const> const& firstMember(std::set<shared_ptr<AMFile const> > 
 
 }  // namespace
 
+AMFile::AMFile(Range<long long> const& range, weak_ptr<ThreadSafe const> project, shared_ptr<Source const> source,
+               unsigned int track, unsigned int channel)
+    : AMFile(
+          range, project, source, track, ChannelSet{channel},
+          checkedSourceTrack(source, track, ChannelSet{channel}, "trying to make a amfile with an invalid channel")) {}
+
+AMFile::AMFile(Range<long long> const& range, weak_ptr<ThreadSafe const> project, shared_ptr<Source const> source,
+               unsigned int track, ChannelSet const& channels)
+    : AMFile(range, project, source, track, channels,
+             checkedSourceTrack(source, track, channels, "trying to make a amfile with an invalid channels")) {}
+
+AMFile::AMFile(Range<long long> const& range, weak_ptr<ThreadSafe const> project,
+               shared_ptr<Source const> const& source, unsigned int track, ChannelSet const& channels,
+               SourceTrackFigures const& figures)
+    : AudioMedia(range, figures.sampleRate, figures.bitDepth, static_cast<double>(figures.limits.start),
+                 static_cast<double>(figures.limits.duration), project),
+      trackNumber_(track),
+      source_(source),
+      channels_(channels) {}
+
 AMFile::AMFile(Range<long long> const& range, unsigned int sampleRate, unsigned int bitDepth,
                weak_ptr<ThreadSafe const> project, std::string const& file, double mediaStart, double mediaDuration,
                unsigned int track, unsigned int channel)
@@ -34,7 +57,8 @@ AMFile::AMFile(Range<long long> const& range, unsigned int sampleRate, unsigned 
 
 AMFile::AMFile(std::set<shared_ptr<AMFile const> > const& members)
     : XMLIdentified(), AudioMedia(*firstMember(members)), fileName_(firstMember(members)->fileName_),
-      trackNumber_(firstMember(members)->trackNumber_), source_(firstMember(members)->source_),
+      trackNumber_(firstMember(members)->trackNumber_),
+      source_(Source::owningReference(firstMember(members)->source_)),
       channels_(firstMember(members)->channels_) {
     // Every member is validated before any channel is taken, so a refused merge builds nothing.
     Range<double> const ownRange = mediaRange();
@@ -52,14 +76,14 @@ AMFile::AMFile(std::set<shared_ptr<AMFile const> > const& members)
 
 AMFile::AMFile(shared_ptr<AMFile const> const& other, unsigned int channel)
     : XMLIdentified(), AudioMedia(*other), fileName_(other->fileName_), trackNumber_(other->trackNumber_),
-      source_(other->source_), channels_{channel} {
+      source_(Source::owningReference(other->source_)), channels_{channel} {
     if (!other->channels_.count(channel))
         throw ZelmarMediaLibException("trying to copy a channel that doesn't exist in this amfile");
 }
 
 AMFile::AMFile(AMFile const& other)
     : XMLIdentified(other), AudioMedia(other), fileName_(other.fileName_), trackNumber_(other.trackNumber_),
-      source_(other.source_), channels_(other.channels_) {}
+      source_(Source::owningReference(other.source_)), channels_(other.channels_) {}
 
 std::string AMFile::description() const {
     return "amfile";
@@ -105,15 +129,16 @@ unsigned int AMFile::trackNumber() const {
 
 std::string AMFile::fileName() const {
     ReadWriteMutex::ScopedReadLock lock(&mutex());
-    return fileName_;
+    return source_ ? VisualFileMedia::trackFileName(*source_, trackNumber_) : fileName_;
 }
 
 std::string AMFile::containerFileName() const {
     ReadWriteMutex::ScopedReadLock lock(&mutex());
-    return fileName_;
+    return source_ ? VisualFileMedia::containerFileName(*source_) : fileName_;
 }
 
 shared_ptr<Source const> AMFile::source() const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
     return source_;
 }
 
@@ -124,9 +149,29 @@ void AMFile::xmlName(XMLable::Options& options) const {
 void AMFile::xmlAttributes(XMLable::Options& options) const {
     MediaImpl::xmlAttributes(options);
     std::ostream& out = *options.stream;
-    out << " trackNumber=\"" << trackNumber_ << "\" channelNumber=\"";
+    out << " trackNumber=\"" << trackNumber_ << '"';
+    if (source_)
+        out << " src=\"" << source_->xmlIdent() << '"';
+    out << " channelNumber=\"";
     writeChannels(out, channels_);
     out << '"';
+}
+
+AMFile::SourceTrackFigures AMFile::checkedSourceTrack(shared_ptr<Source const> const& source, unsigned int track,
+                                                      ChannelSet const& channels, char const* channelText) {
+    shared_ptr<MediaFileStats const> stats;
+    if (source)
+        stats = source->mediaFileStats();
+    if (!stats || track >= stats->numTracks() || stats->trackType(track) != MediaFileStats::Audio)
+        throw ZelmarMediaLibException("trying to make a amfile with an invalid source track");
+    // The set is ordered, so its last channel is the highest.
+    if (!channels.empty() && *channels.rbegin() >= stats->numChannels(track))
+        throw ZelmarMediaLibException(channelText);
+    SourceTrackFigures figures;
+    figures.limits = source->timeRange();
+    figures.sampleRate = static_cast<unsigned int>(stats->sampleRate(track).numerator());
+    figures.bitDepth = stats->bitDepth(track);
+    return figures;
 }
 
 void AMFile::writeChannels(std::ostream& out, ChannelSet const& channels) {

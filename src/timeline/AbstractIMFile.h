@@ -3,12 +3,20 @@
 #include <ZelmarMediaLib/timeline/FileRepresentation.h>
 #include <ZelmarMediaLib/timeline/ImageMedia.h>
 
+#include <memory>
+
 namespace ZelmarMediaLib {
+
+class VisualFileMedia;
 
 class AbstractIMFile : public ImageMedia, public FileRepresentation {
 public:
+    ~AbstractIMFile() override;
+
+    // Whether source is this media's own source, by pointer; never for a still without one.
     bool isInstanceOf(shared_ptr<Source const> source) const override;
     void xmlOfAttributes(XMLable::Options& options, int indent) const override;
+    // The media's timing, trackNumber, src when there is a source, then trimStartSum.
     void xmlAttributes(XMLable::Options& options) const override;
 
     // The size of the source's track picture; 0 without a source.
@@ -20,15 +28,19 @@ public:
     shared_ptr<Source const> source() const;
 
 protected:
-    // The media range comes from the source's time range; a still without a source spans
-    // one unit of material.
+    // The material's limits are the source's time range; a still without a source spans one
+    // unit of material. A video track is accepted, so that a frame can be grabbed from it; any
+    // other raises "trying to make an AbstractIMFile with an invalid source track".
     AbstractIMFile(long long start, long long duration, weak_ptr<ThreadSafe const> project,
                    shared_ptr<Source const> source, unsigned int track);
     AbstractIMFile(AbstractIMFile const& other);
 
 private:
-    shared_ptr<Source const> source_;
-    unsigned int trackNumber_;
+    // Once the track is known to be a picture of the source.
+    AbstractIMFile(long long start, long long duration, Range<long long> const& limits,
+                   weak_ptr<ThreadSafe const> project, shared_ptr<Source const> const& source, unsigned int track);
+
+    std::unique_ptr<VisualFileMedia> file_;
 };
 
 // The concrete still.

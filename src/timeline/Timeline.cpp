@@ -167,10 +167,12 @@ void Timeline::xmlName(XMLable::Options& options) const {
 void Timeline::xmlAttributes(XMLable::Options&) const {}
 
 void Timeline::xmlBody(XMLable::Options& options, int indent) const {
+    // One level deeper than received: the format puts the mixers two levels below the
+    // timeline, unlike the one level of the framework's rule.
     if (visualMixer_)
-        visualMixer_->toXML(options, indent, "");
+        visualMixer_->toXML(options, indent + 1, "");
     if (audioMixer_)
-        audioMixer_->toXML(options, indent, "");
+        audioMixer_->toXML(options, indent + 1, "");
 }
 
 shared_ptr<VisualMixer> Timeline::visualMixer() const {

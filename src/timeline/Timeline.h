@@ -73,7 +73,8 @@ public:
     ParameterVector* parameterVector() const override;
     void xmlName(XMLable::Options& options) const override;
     void xmlAttributes(XMLable::Options& options) const override;
-    // The mixers that exist, visual first. The marker is not written here.
+    // The mixers that exist, visual first, one level deeper than received. The marker is not
+    // written here.
     void xmlBody(XMLable::Options& options, int indent) const override;
 
     shared_ptr<VisualMixer> visualMixer() const;

@@ -1,5 +1,9 @@
 // The project facade: creation, the command path with its lock, observer and delay, combining,
-// and the document skeleton.
+// the model it owns, and the document skeleton.
+#include <ZelmarMediaLib/clipbin/MediaFileStats.h>
+#include <ZelmarMediaLib/clipbin/Source.h>
+#include <ZelmarMediaLib/clipbin/SourceBin.h>
+#include <ZelmarMediaLib/clipbin/SourceBinSentry.h>
 #include <ZelmarMediaLib/commands/CommandHandler.h>
 #include <ZelmarMediaLib/commands/CommandHistory.h>
 #include <ZelmarMediaLib/commands/CommandPair.h>
@@ -9,8 +13,10 @@
 #include <ZelmarMediaLib/exceptions/ValueException.h>
 #include <ZelmarMediaLib/project/CommandObserver.h>
 #include <ZelmarMediaLib/project/InternalProject.h>
+#include <ZelmarMediaLib/timeline/Timeline.h>
 
 #include "support/CountingObserver.h"
+#include "support/HandBuiltStats.h"
 #include "support/RecordingCommand.h"
 #include "support/XmlCheck.h"
 
@@ -22,6 +28,8 @@ namespace ZelmarMediaLib {
 namespace {
 
 using test::Log;
+
+std::string const media = ZML_TEST_MEDIA_DIR;
 using test::RecordingCommand;
 
 // Records what the project's state was when it was told of a command.
@@ -174,15 +182,17 @@ TEST_F(ProjectTest, HandlerCanBeReplaced) {
     EXPECT_EQ(&other, probe->lastHandler);
 }
 
-TEST_F(ProjectTest, CloneHasNoLockToHandOut) {
+TEST_F(ProjectTest, CloneHasNoLockAndNoSourceBinToHandOut) {
     project->execute(command("a"));
     auto internal = dynamic_pointer_cast<InternalProject>(project);
     std::unique_ptr<InternalProject> copy(internal->clone());
     EXPECT_NE(project->xmlIdent(), copy->xmlIdent());
     EXPECT_THROW(copy->mutex(), ZelmarMediaLibException);
+    EXPECT_THROW(copy->addSourceBinSentry(shared_ptr<SourceBinSentry>()), ZelmarMediaLibException)
+        << "a clone has no source bin";
 }
 
-TEST_F(ProjectTest, NewProjectWritesOnlyTheThreeTextElements) {
+TEST_F(ProjectTest, NewProjectWritesTextElementsThenAnEmptySourceBinAndTimeline) {
     std::ostringstream out;
     project->toXML(out);
     std::string const expected = "<Project id=\"" + std::to_string(project->xmlIdent()) +
@@ -190,9 +200,68 @@ TEST_F(ProjectTest, NewProjectWritesOnlyTheThreeTextElements) {
                                  " <Author></Author>\n"
                                  " <Comment></Comment>\n"
                                  " <System></System>\n"
+                                 " <SourceBin id=\"" + std::to_string(project->sourceBin()->xmlIdent()) + "\"  >\n"
+                                 " </SourceBin>\n"
+                                 " <Timeline id=\"" + std::to_string(project->timeline()->xmlIdent()) + "\"  >\n"
+                                 " </Timeline>\n"
                                  "</Project>\n";
     EXPECT_EQ(expected, out.str());
     EXPECT_TRUE(test::isWellFormedXml(out.str()));
+}
+
+TEST_F(ProjectTest, DocumentNestsSourcesAndMixersTwoLevelsBelowTheirContainers) {
+    shared_ptr<Source> source = Source::create(project, project, test::talkStats());
+    project->sourceBin()->addSource(source);
+    project->timeline()->newVisualMixer(640, 480);
+    std::ostringstream out;
+    project->toXML(out);
+    std::string const text = out.str();
+    std::string::size_type const bin = text.find("\n <SourceBin id="), timeline = text.find("\n <Timeline id=");
+    ASSERT_NE(std::string::npos, bin);
+    ASSERT_NE(std::string::npos, timeline);
+    EXPECT_LT(bin, timeline) << "the source bin comes first";
+    EXPECT_NE(std::string::npos, text.find("\n   <Source id=\"" + std::to_string(source->xmlIdent()) + "\" src="));
+    EXPECT_NE(std::string::npos, text.find("\n     <SourceTrack range=\"(0,6000)\" "));
+    EXPECT_NE(std::string::npos, text.find("\n   <VisualMixer id="));
+    EXPECT_TRUE(test::isWellFormedXml(text));
+}
+
+TEST_F(ProjectTest, ModelIsMadeOnceOnTheProjectsLockAndRate) {
+    shared_ptr<Project> fast = Project::create(60, 1);
+    EXPECT_EQ(fast->timeline(), fast->timeline());
+    EXPECT_EQ(&fast->mutex(), &fast->timeline()->mutex());
+    EXPECT_EQ(&fast->mutex(), &fast->sourceBin()->mutex());
+    shared_ptr<Source> source = fast->sourceBin()->loadFile(media + "/video-audio.mp4");
+    EXPECT_EQ(Range<long long>(0, 60), source->timeRange()) << "one second at the project's rate";
+    EXPECT_EQ(0, fast->timeline()->numTracks()) << "loading places nothing";
+}
+
+TEST_F(ProjectTest, SentriesAndFileChangesReachTheSourceBinWithoutCommands) {
+    shared_ptr<Source> source = Source::create(
+        project, project,
+        test::stats("/old/clip.mkv", Rect<int>(0, 0, 64, 48), {test::videoTrack(Range<long long>(0, 1000), 1000)}));
+    project->sourceBin()->addSource(source);
+    project->changeSourcesFile(source, media + "/video-only.mkv");
+    EXPECT_EQ(media + "/video-only.mkv", source->mediaFileStats()->filename());
+    try {
+        project->changeSourcesFile(shared_ptr<Source const>(), media + "/video-only.mkv");
+        FAIL();
+    } catch (ZelmarMediaLibException const& error) {
+        EXPECT_STREQ("attempting to change the file of a null source", error.what());
+    }
+
+    class Refuser : public SourceBinSentry {
+    public:
+        std::string description() const override { return "refuser"; }
+        bool acceptsFile(MediaFileStats const&) override { return false; }
+    };
+    project->addSourceBinSentry(boost::make_shared<Refuser>());
+    std::string const still = media + "/still.png";
+    testing::internal::CaptureStdout();
+    EXPECT_THROW(project->sourceBin()->loadFile(still), ZelmarMediaLibException);
+    EXPECT_EQ("SourceBinSentry(refuser) rejected file:" + still + "\n", testing::internal::GetCapturedStdout());
+    EXPECT_EQ(media + "/video-only.mkv", project->sourceBin()->sourceForFile(media + "/video-only.mkv")
+                                             ->mediaFileStats()->filename());
 }
 
 TEST_F(ProjectTest, TextElementsGoOutUnescaped) {

@@ -306,22 +306,23 @@ TEST_F(TimelineCopyTest, WholeCloneCopiesEverythingButTheLinks) {
     EXPECT_NE(visual, copy->visualMixer());
 }
 
-TEST_F(TimelineTest, MixerXmlListsAttributesThenTracks) {
+// Regression: the timeline wrote its mixers one level below itself; the document has them two.
+TEST_F(TimelineTest, MixerXmlListsAttributesThenTracksTwoLevelsBelowTheTimeline) {
     shared_ptr<AudioMixer> sound = timeline->newAudioMixer(44100, 16, 2);
     std::string const expected =
         "<Timeline id=\"" + id(*timeline) + "\"  >\n"
-        " <AudioMixer id=\"" + id(*sound) + "\"  >\n"
-        "  <Attributes>\n"
-        "   <Attribute id=\"" + id(*sound->sampleRate()) + "\" value=\"44100\" name=\"sampleRate\">\n"
-        "   </Attribute>\n"
-        "   <Attribute id=\"" + id(*sound->bitDepth()) + "\" value=\"16\" name=\"bitDepth\">\n"
-        "   </Attribute>\n"
-        "   <Attribute id=\"" + id(*sound->numChannels()) + "\" value=\"2\" name=\"numChannels\">\n"
-        "   </Attribute>\n"
-        "  </Attributes>\n"
-        "  <Tracks>\n"
-        "  </Tracks>\n"
-        " </AudioMixer>\n"
+        "  <AudioMixer id=\"" + id(*sound) + "\"  >\n"
+        "   <Attributes>\n"
+        "    <Attribute id=\"" + id(*sound->sampleRate()) + "\" value=\"44100\" name=\"sampleRate\">\n"
+        "    </Attribute>\n"
+        "    <Attribute id=\"" + id(*sound->bitDepth()) + "\" value=\"16\" name=\"bitDepth\">\n"
+        "    </Attribute>\n"
+        "    <Attribute id=\"" + id(*sound->numChannels()) + "\" value=\"2\" name=\"numChannels\">\n"
+        "    </Attribute>\n"
+        "   </Attributes>\n"
+        "   <Tracks>\n"
+        "   </Tracks>\n"
+        "  </AudioMixer>\n"
         "</Timeline>\n";
     EXPECT_EQ(expected, xml(*timeline));
 
