@@ -254,11 +254,6 @@ void MediaImpl::insertEffect(shared_ptr<Effect> effect, int index) {
     notify();
 }
 
-void MediaImpl::swapEffectOrder(int first, int second) {
-    effects_->swapEffectOrder(first, second);
-    notify();
-}
-
 EffectRemoval MediaImpl::removeEffect(shared_ptr<Effect const> effect) {
     if (effect)
         const_pointer_cast<Effect>(effect)->setEffectTimeConverter(nullptr);
@@ -272,19 +267,12 @@ EffectRemoval MediaImpl::removeEffect(int index) {
     return effects_->removeEffect(index);
 }
 
-shared_ptr<Effect> MediaImpl::effectAtIndex(int index) {
-    ReadWriteMutex::ScopedReadLock lock(&mutex());
-    return effects_->effectAtIndex(index);
+VectorEffectable& MediaImpl::effectChain() {
+    return *effects_;
 }
 
-shared_ptr<Effect const> MediaImpl::effectAtIndex(int index) const {
-    ReadWriteMutex::ScopedReadLock lock(&mutex());
-    return effects_->effectAtIndex(index);
-}
-
-int MediaImpl::numEffects() const {
-    ReadWriteMutex::ScopedReadLock lock(&mutex());
-    return effects_->numEffects();
+VectorEffectable const& MediaImpl::effectChain() const {
+    return *effects_;
 }
 
 double MediaImpl::toParameterTime(double time) const {

@@ -55,15 +55,12 @@ public:
     long long startTime() const override;
     long long duration() const override;
 
-    // Effects on a media follow the media's time through this media as their converter.
+    // Effects on a media follow the media's time through this media as their converter; a
+    // removal clears the converter and, unlike on tracks and mixers, does not notify.
     int addEffect(shared_ptr<Effect> effect) override;
     void insertEffect(shared_ptr<Effect> effect, int index) override;
-    void swapEffectOrder(int first, int second) override;
     EffectRemoval removeEffect(shared_ptr<Effect const> effect) override;
     EffectRemoval removeEffect(int index) override;
-    shared_ptr<Effect> effectAtIndex(int index) override;
-    shared_ptr<Effect const> effectAtIndex(int index) const override;
-    int numEffects() const override;
 
     // Parameters are keyed in material time: t / scalar + mediaRange.start.
     double toParameterTime(double time) const override;
@@ -115,6 +112,9 @@ protected:
     MediaImpl(MediaImpl const& other);
 
     void printEdgeModsXML(XMLable::Options& options, int indent) const;
+
+    VectorEffectable& effectChain() override;
+    VectorEffectable const& effectChain() const override;
 
 private:
     void addEdgeModification(std::list<EdgeModification>& list, EdgeModification const& modification);

@@ -30,47 +30,12 @@ int Mixer::numAttributes() const {
     return 0;
 }
 
-int Mixer::addEffect(shared_ptr<Effect> effect) {
-    int const index = effects_->addEffect(effect);
-    notify();
-    return index;
+VectorEffectable& Mixer::effectChain() {
+    return *effects_;
 }
 
-void Mixer::insertEffect(shared_ptr<Effect> effect, int index) {
-    effects_->insertEffect(effect, index);
-    notify();
-}
-
-void Mixer::swapEffectOrder(int first, int second) {
-    effects_->swapEffectOrder(first, second);
-    notify();
-}
-
-EffectRemoval Mixer::removeEffect(shared_ptr<Effect const> effect) {
-    EffectRemoval const removal = effects_->removeEffect(effect);
-    notify();
-    return removal;
-}
-
-EffectRemoval Mixer::removeEffect(int index) {
-    EffectRemoval const removal = effects_->removeEffect(index);
-    notify();
-    return removal;
-}
-
-shared_ptr<Effect> Mixer::effectAtIndex(int index) {
-    ReadWriteMutex::ScopedReadLock lock(&mutex());
-    return effects_->effectAtIndex(index);
-}
-
-shared_ptr<Effect const> Mixer::effectAtIndex(int index) const {
-    ReadWriteMutex::ScopedReadLock lock(&mutex());
-    return effects_->effectAtIndex(index);
-}
-
-int Mixer::numEffects() const {
-    ReadWriteMutex::ScopedReadLock lock(&mutex());
-    return effects_->numEffects();
+VectorEffectable const& Mixer::effectChain() const {
+    return *effects_;
 }
 
 double Mixer::toParameterTime(double time) const {

@@ -34,14 +34,6 @@ public:
     void xmlOfAttributes(XMLable::Options& options, int indent) const override;
     int numAttributes() const override;
     Mixer* clone() const override = 0;
-    int addEffect(shared_ptr<Effect> effect) override;
-    void insertEffect(shared_ptr<Effect> effect, int index) override;
-    void swapEffectOrder(int first, int second) override;
-    EffectRemoval removeEffect(shared_ptr<Effect const> effect) override;
-    EffectRemoval removeEffect(int index) override;
-    shared_ptr<Effect> effectAtIndex(int index) override;
-    shared_ptr<Effect const> effectAtIndex(int index) const override;
-    int numEffects() const override;
     // A mixer's parameters are keyed in global time, as a track's are.
     double toParameterTime(double time) const override;
     double fromParameterTime(double time) const override;
@@ -166,6 +158,9 @@ protected:
     }
 
 private:
+    VectorEffectable& effectChain() override;
+    VectorEffectable const& effectChain() const override;
+
     std::unique_ptr<VectorEffectable> effects_;
 };
 

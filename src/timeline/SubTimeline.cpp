@@ -1,6 +1,8 @@
 #include <ZelmarMediaLib/timeline/SubTimeline.h>
 
+#include <ZelmarMediaLib/datatypes/ReadWriteMutex.h>
 #include <ZelmarMediaLib/effects/Effect.h>
+#include <ZelmarMediaLib/effects/VectorEffectable.h>
 
 #include <ostream>
 
@@ -11,6 +13,49 @@ SubTimeline::SubTimeline(weak_ptr<ThreadSafe const> project) : SubProject(projec
 SubTimeline::SubTimeline(SubTimeline const& other)
     : XMLIdentified(other), SubProject(other), Subject(other), Parametric(other), Effectable(other),
       Attributable(other), XMLable(other), Temporal(other), Identified(other) {}
+
+int SubTimeline::addEffect(shared_ptr<Effect> effect) {
+    int const index = effectChain().addEffect(effect);
+    notify();
+    return index;
+}
+
+void SubTimeline::insertEffect(shared_ptr<Effect> effect, int index) {
+    effectChain().insertEffect(effect, index);
+    notify();
+}
+
+void SubTimeline::swapEffectOrder(int first, int second) {
+    effectChain().swapEffectOrder(first, second);
+    notify();
+}
+
+EffectRemoval SubTimeline::removeEffect(shared_ptr<Effect const> effect) {
+    EffectRemoval const removal = effectChain().removeEffect(effect);
+    notify();
+    return removal;
+}
+
+EffectRemoval SubTimeline::removeEffect(int index) {
+    EffectRemoval const removal = effectChain().removeEffect(index);
+    notify();
+    return removal;
+}
+
+shared_ptr<Effect> SubTimeline::effectAtIndex(int index) {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    return effectChain().effectAtIndex(index);
+}
+
+shared_ptr<Effect const> SubTimeline::effectAtIndex(int index) const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    return effectChain().effectAtIndex(index);
+}
+
+int SubTimeline::numEffects() const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    return effectChain().numEffects();
+}
 
 int SubTimeline::numAttributes() const {
     return 1;

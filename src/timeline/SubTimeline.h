@@ -11,6 +11,8 @@
 
 namespace ZelmarMediaLib {
 
+class VectorEffectable;
+
 class SubTimeline : public SubProject,
                     public Subject,
                     public Parametric,
@@ -20,6 +22,16 @@ class SubTimeline : public SubProject,
                     public Temporal,
                     public Identified {
 public:
+    // Each forwards to the owner's chain; the edits then notify, the questions take the read lock.
+    int addEffect(shared_ptr<Effect> effect) override;
+    void insertEffect(shared_ptr<Effect> effect, int index) override;
+    void swapEffectOrder(int first, int second) override;
+    EffectRemoval removeEffect(shared_ptr<Effect const> effect) override;
+    EffectRemoval removeEffect(int index) override;
+    shared_ptr<Effect> effectAtIndex(int index) override;
+    shared_ptr<Effect const> effectAtIndex(int index) const override;
+    int numEffects() const override;
+
     // How many attributes xmlOfAttributes writes; the block is left out at 0.
     virtual int numAttributes() const;
     virtual void xmlOfParameters(XMLable::Options& options, int indent) const = 0;
@@ -33,6 +45,10 @@ protected:
     explicit SubTimeline(weak_ptr<ThreadSafe const> project);
     SubTimeline(SubTimeline const& other);
     SubTimeline& operator=(SubTimeline const&) = delete;
+
+    // The effect chain that each media, track and mixer owns.
+    virtual VectorEffectable& effectChain() = 0;
+    virtual VectorEffectable const& effectChain() const = 0;
 };
 
 }  // namespace ZelmarMediaLib

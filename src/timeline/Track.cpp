@@ -92,47 +92,12 @@ Track::~Track() = default;
 
 void Track::xmlOfParameters(XMLable::Options&, int) const {}
 
-int Track::addEffect(shared_ptr<Effect> effect) {
-    int const index = effects_->addEffect(effect);
-    notify();
-    return index;
+VectorEffectable& Track::effectChain() {
+    return *effects_;
 }
 
-void Track::insertEffect(shared_ptr<Effect> effect, int index) {
-    effects_->insertEffect(effect, index);
-    notify();
-}
-
-void Track::swapEffectOrder(int first, int second) {
-    effects_->swapEffectOrder(first, second);
-    notify();
-}
-
-EffectRemoval Track::removeEffect(shared_ptr<Effect const> effect) {
-    EffectRemoval const removal = effects_->removeEffect(effect);
-    notify();
-    return removal;
-}
-
-EffectRemoval Track::removeEffect(int index) {
-    EffectRemoval const removal = effects_->removeEffect(index);
-    notify();
-    return removal;
-}
-
-shared_ptr<Effect> Track::effectAtIndex(int index) {
-    ReadWriteMutex::ScopedReadLock lock(&mutex());
-    return effects_->effectAtIndex(index);
-}
-
-shared_ptr<Effect const> Track::effectAtIndex(int index) const {
-    ReadWriteMutex::ScopedReadLock lock(&mutex());
-    return effects_->effectAtIndex(index);
-}
-
-int Track::numEffects() const {
-    ReadWriteMutex::ScopedReadLock lock(&mutex());
-    return effects_->numEffects();
+VectorEffectable const& Track::effectChain() const {
+    return *effects_;
 }
 
 double Track::toParameterTime(double time) const {

@@ -42,15 +42,6 @@ public:
     void xmlOfAttributes(XMLable::Options& options, int indent) const override = 0;
     virtual void receiveDispatcher(ConstTrackDispatcher* dispatcher) const = 0;
     virtual void receiveDispatcher(TrackDispatcher* dispatcher) = 0;
-    // A track's effects get no time converter: its parameters are keyed in global time.
-    int addEffect(shared_ptr<Effect> effect) override;
-    void insertEffect(shared_ptr<Effect> effect, int index) override;
-    void swapEffectOrder(int first, int second) override;
-    EffectRemoval removeEffect(shared_ptr<Effect const> effect) override;
-    EffectRemoval removeEffect(int index) override;
-    shared_ptr<Effect> effectAtIndex(int index) override;
-    shared_ptr<Effect const> effectAtIndex(int index) const override;
-    int numEffects() const override;
     double toParameterTime(double time) const override;
     double fromParameterTime(double time) const override;
     long long fromGlobalToParametricTime(long long time) const override;
@@ -208,6 +199,9 @@ private:
     template <class Ignore>
     void collectIntersecting(Range<long long> const& range, Ignore const& ignore, MediaList& hits) const;
     static Range<long long> trackRangeOf(shared_ptr<Media const> const& media);
+
+    VectorEffectable& effectChain() override;
+    VectorEffectable const& effectChain() const override;
 
     std::unique_ptr<VectorEffectable> effects_;
 };
