@@ -114,8 +114,13 @@
 #include <ZelmarMediaLib/timeline/VisualTrack.h>
 
 #include <ZelmarMediaLib/clipbin/AVFormatStatsLoader.h>
+#include <ZelmarMediaLib/clipbin/ClipBoard.h>
+#include <ZelmarMediaLib/clipbin/Clipping.h>
 #include <ZelmarMediaLib/clipbin/MediaFileStats.h>
 #include <ZelmarMediaLib/clipbin/MediaFileStatsPosix.h>
+#include <ZelmarMediaLib/clipbin/ScreenMetaData.h>
+#include <ZelmarMediaLib/clipbin/ScreenMetaDataImpl.h>
+#include <ZelmarMediaLib/clipbin/ScreenMetaDataLoader.h>
 #include <ZelmarMediaLib/clipbin/Source.h>
 #include <ZelmarMediaLib/clipbin/SourceBin.h>
 #include <ZelmarMediaLib/clipbin/SourceBinSentry.h>

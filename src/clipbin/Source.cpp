@@ -1,6 +1,7 @@
 #include <ZelmarMediaLib/clipbin/Source.h>
 
 #include <ZelmarMediaLib/clipbin/MediaFileStats.h>
+#include <ZelmarMediaLib/clipbin/ScreenMetaData.h>
 #include <ZelmarMediaLib/datatypes/PathUtil.h>
 #include <ZelmarMediaLib/datatypes/ProjectEditRate.h>
 #include <ZelmarMediaLib/datatypes/ReadWriteMutex.h>
@@ -128,6 +129,7 @@ shared_ptr<Source> Source::create(shared_ptr<ProjectEditRate const> editRate, we
     if (!stats)
         throw ZelmarMediaLibException("attempting to make a source without file statistics");
     shared_ptr<Source> source(new Source(project, stats));
+    source->editRate_ = editRate;
     source->init(editRate->editRate());
     return source;
 }
@@ -333,9 +335,41 @@ void Source::addMediaToTimeline(shared_ptr<AudioMedia> const& media) {
     mixer->newTrack<AudioTrack>(-1)->addMedia(media, 0);
 }
 
-void Source::addMetaData(shared_ptr<VMFile> const&, std::vector<std::string> const&) {}
+void Source::addMetaData(shared_ptr<VMFile> const& media, std::vector<std::string> const& paths) {
+    shared_ptr<ScreenMetaData> const metaData =
+        ScreenMetaData::create(projectMutex(), shared_ptr<FileRepresentation const>(media), editRate_);
+    for (std::string const& path : paths) {
+        std::string const leaf = boost::filesystem::path(path).filename().string();
+        if (leaf == "dirtyrect.dat")
+            metaData->setDirtyRects(path);
+        else if (leaf == "frontmost.dat")
+            metaData->setTopmostWindowCoordinates(path);
+        else if (leaf == "cursoraction.dat")
+            metaData->setCursorAction(path);
+        else if (leaf == "cursorlocation.dat")
+            metaData->setCursorLocation(path);
+    }
+    media->screenMetaData()->setValue(metaData);
+    screenMetaData_[media] = metaData;
+}
 
-void Source::updateScreenMetaData(std::string const&, std::string const&) {}
+void Source::updateScreenMetaData(std::string const& oldPath, std::string const& newPath) {
+    for (auto const& entry : screenMetaData_) {
+        ScreenMetaData& metaData = *entry.second;
+        std::string path = metaData.topmostWindowCoordinatesFilename();
+        replacePath(oldPath, newPath, &path);
+        metaData.setTopmostWindowCoordinates(path);
+        path = metaData.cursorLocationFilename();
+        replacePath(oldPath, newPath, &path);
+        metaData.setCursorLocation(path);
+        path = metaData.cursorActionFilename();
+        replacePath(oldPath, newPath, &path);
+        metaData.setCursorAction(path);
+        path = metaData.dirtyRectsFilename();
+        replacePath(oldPath, newPath, &path);
+        metaData.setDirtyRects(path);
+    }
+}
 
 bool Source::filesAreCompatableForChange(MediaFileStats const& candidate) const {
     MediaFileStats const& current = *mediaFileStats_;

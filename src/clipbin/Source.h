@@ -7,6 +7,7 @@
 #include <ZelmarMediaLib/datatypes/Subject.h>
 #include <ZelmarMediaLib/datatypes/XMLable.h>
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,7 @@ class AudioMedia;
 class Media;
 class MediaFileStats;
 class ProjectEditRate;
+class ScreenMetaData;
 class Timeline;
 class VMFile;
 class VisualMedia;
@@ -143,11 +145,11 @@ private:
     void createAndAddMedias();
     void addMediaToTimeline(shared_ptr<VisualMedia> const& media);
     void addMediaToTimeline(shared_ptr<AudioMedia> const& media);
-    // Makes the screen meta data of a video track from the paths of its side files. Screen
-    // meta data has no class in the library yet, so a VMFile of a source has none for now.
+    // Every VMFile of a source gets screen meta data, made from the side files that its track
+    // has; it is not valid when one of the four is missing.
     void addMetaData(shared_ptr<VMFile> const& media, std::vector<std::string> const& paths);
-    // Carries the side files' paths to the new file; there are none to carry until screen
-    // meta data exists.
+    // The side files of a recording lie in its bundle, so their paths begin with the file's
+    // own path and follow it to the new place. Values already loaded stay.
     void updateScreenMetaData(std::string const& oldPath, std::string const& newPath);
     bool filesAreCompatableForChange(MediaFileStats const& candidate) const;
     void updateTrackFilenames(std::string const& oldPath, std::string const& newPath);
@@ -161,6 +163,9 @@ private:
     shared_ptr<MediaFileStats> mediaFileStats_;
     bool online_;
     Range<long long> timeRange_;
+    std::map<shared_ptr<VMFile>, shared_ptr<ScreenMetaData> > screenMetaData_;
+    // Handed to the screen meta data, whose loader may need it.
+    weak_ptr<ProjectEditRate const> editRate_;
 };
 
 }  // namespace ZelmarMediaLib

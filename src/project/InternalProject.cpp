@@ -1,6 +1,7 @@
 #include <ZelmarMediaLib/project/InternalProject.h>
 
 #include <ZelmarMediaLib/clipbin/Source.h>
+#include <ZelmarMediaLib/clipbin/ClipBoard.h>
 #include <ZelmarMediaLib/clipbin/SourceBin.h>
 #include <ZelmarMediaLib/commands/Command.h>
 #include <ZelmarMediaLib/commands/CommandHistory.h>
@@ -58,6 +59,7 @@ void InternalProject::init() {
     shared_ptr<InternalProject> const self = shared_from_this();
     sourceBin_ = boost::make_shared<SourceBin>(weak_ptr<ThreadSafe const>(self), weak_ptr<ProjectEditRate>(self));
     timeline_ = boost::make_shared<Timeline>(weak_ptr<ThreadSafe const>(self));
+    clipBoard_ = boost::make_shared<ClipBoard>(weak_ptr<ThreadSafe const>(self));
 }
 
 std::string InternalProject::description() const {
@@ -181,6 +183,11 @@ void InternalProject::addSourceBinSentry(shared_ptr<SourceBinSentry> sentry) {
     if (!sourceBin_)
         throw ZelmarMediaLibException("a project clone has no source bin");
     sourceBin_->addSentry(sentry);
+}
+
+shared_ptr<ClipBoard> InternalProject::clipBoard() {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    return clipBoard_;
 }
 
 shared_ptr<CommandHistory> InternalProject::commandHistory() const {

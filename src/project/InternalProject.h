@@ -47,6 +47,8 @@ public:
     shared_ptr<Timeline> timeline() const override;
     shared_ptr<SourceBin> sourceBin() const override;
     shared_ptr<CommandHistory> commandHistory() const override;
+    // Null on a clone.
+    shared_ptr<ClipBoard> clipBoard() override;
     // A null source is refused.
     void changeSourcesFile(shared_ptr<Source const> source, std::string const& path) override;
     void addSourceBinSentry(shared_ptr<SourceBinSentry> sentry) override;
@@ -73,7 +75,7 @@ protected:
     InternalProject(InternalProject const& other);
     InternalProject& operator=(InternalProject const&);
 
-    // Makes the model objects that the project owns: the source bin, then the timeline.
+    // Makes the model objects that the project owns: the source bin, the timeline, the clipboard.
     void init();
 
 private:
@@ -82,6 +84,7 @@ private:
     shared_ptr<Timeline> timeline_;
     shared_ptr<SourceBin> sourceBin_;
     shared_ptr<CommandHistory> commandHistory_;
+    shared_ptr<ClipBoard> clipBoard_;
     rational<unsigned long> editRate_;
     std::string author_;
     std::string version_;

@@ -12,6 +12,7 @@
 namespace ZelmarMediaLib {
 
 class Command;
+class ClipBoard;
 class CommandHistory;
 class CommandObserver;
 class Source;
@@ -44,6 +45,8 @@ public:
     virtual shared_ptr<Timeline> timeline() const = 0;
     virtual shared_ptr<SourceBin> sourceBin() const = 0;
     virtual shared_ptr<CommandHistory> commandHistory() const = 0;
+    // The clippings that cut and copy made.
+    virtual shared_ptr<ClipBoard> clipBoard() = 0;
     // Not commands, and not undone: the source that the handle names is pointed at another
     // file of the same kind, and a sentry joins the source bin. Neither takes the lock.
     virtual void changeSourcesFile(shared_ptr<Source const> source, std::string const& path) = 0;

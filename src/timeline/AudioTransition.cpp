@@ -3,7 +3,10 @@
 #include <ZelmarMediaLib/datatypes/ReadWriteMutex.h>
 #include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
 #include <ZelmarMediaLib/timeline/MediaDispatcher.h>
+#include <ZelmarMediaLib/effects/Effect.h>
 #include <ZelmarMediaLib/timeline/StaticEditor.h>
+
+#include <ostream>
 
 namespace ZelmarMediaLib {
 
@@ -64,8 +67,22 @@ int AudioTransition::numChannels() const {
     return 0;
 }
 
-void AudioTransition::splitChannels() const {
+shared_ptr<std::vector<shared_ptr<AMFile> > > AudioTransition::splitChannels() const {
     throw ZelmarMediaLibException("no audio channels to split");
+}
+
+void AudioTransition::xmlAttributes(XMLable::Options& options) const {
+    Range<long long> const range = trackRange();
+    *options.stream << "start=\"" << range.start << "\" duration=\"" << range.duration << '"';
+}
+
+void AudioTransition::xmlBody(XMLable::Options& options, int indent) const {
+    MediaImpl::xmlBody(options, indent);
+    std::ostream& out = *options.stream;
+    out << genIndent(indent) << "<Effect>\n";
+    if (effect_)
+        effect_->toXML(options, indent + 1, "");
+    out << genIndent(indent) << "</Effect>\n";
 }
 
 }  // namespace ZelmarMediaLib

@@ -4,9 +4,11 @@
 #include <ZelmarMediaLib/timeline/Transition.h>
 
 #include <memory>
+#include <vector>
 
 namespace ZelmarMediaLib {
 
+class AMFile;
 class StaticEditor;
 
 class AudioTransition : public AudioMedia, public Transition {
@@ -22,6 +24,10 @@ public:
     MediaEditor* mediaEditor() override;
     MediaEditor const* mediaEditor() const override;
     void xmlName(XMLable::Options& options) const override;
+    // Only where it stands: start and duration on the track.
+    void xmlAttributes(XMLable::Options& options) const override;
+    // The media's body, then the effect in an Effect element at the same indent.
+    void xmlBody(XMLable::Options& options, int indent) const override;
 
     Range<long long> transitionRange() const override;
     shared_ptr<Effect const> transitionEffect() const override;
@@ -29,7 +35,7 @@ public:
 
     int numChannels() const;
     // There are none: raises.
-    void splitChannels() const;
+    shared_ptr<std::vector<shared_ptr<AMFile> > > splitChannels() const;
 
 private:
     shared_ptr<Effect const> effect_;

@@ -7,6 +7,8 @@
 #include <ZelmarMediaLib/timeline/MediaDispatcher.h>
 #include <ZelmarMediaLib/timeline/StaticEditor.h>
 
+#include <ostream>
+
 namespace ZelmarMediaLib {
 
 ImageTransition::ImageTransition(long long duration, weak_ptr<ThreadSafe const> project)
@@ -110,6 +112,15 @@ void ImageTransition::xmlOfAttributes(XMLable::Options& options, int indent) con
 
 void ImageTransition::xmlName(XMLable::Options& options) const {
     *options.stream << "ImageTransition";
+}
+
+void ImageTransition::xmlAttributes(XMLable::Options& options) const {
+    Range<long long> const range = trackRange();
+    *options.stream << "start=\"" << range.start << "\" duration=\"" << range.duration << '"';
+}
+
+void ImageTransition::xmlBody(XMLable::Options& options, int indent) const {
+    MediaImpl::xmlBody(options, indent);
 }
 
 }  // namespace ZelmarMediaLib

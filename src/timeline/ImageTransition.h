@@ -41,6 +41,11 @@ public:
     ParameterVector* parameterVector() const override;
     void xmlOfAttributes(XMLable::Options& options, int indent) const override;
     void xmlName(XMLable::Options& options) const override;
+    // Only where it stands: start and duration on the track.
+    void xmlAttributes(XMLable::Options& options) const override;
+    // A transition places nothing, so it has no transformer group; its effect stands in the
+    // Effects block.
+    void xmlBody(XMLable::Options& options, int indent) const override;
 
 private:
     std::unique_ptr<StaticEditor> editor_;

@@ -10,6 +10,7 @@
 #include <ZelmarMediaLib/exceptions/ValueException.h>
 #include <ZelmarMediaLib/timeline/Media.h>
 #include <ZelmarMediaLib/timeline/ParentedMedia.h>
+#include <ZelmarMediaLib/timeline/Transition.h>
 
 #include <iterator>
 #include <ostream>
@@ -571,6 +572,73 @@ void Track::setupCloneEdgeMods(Range<long long> const& range, shared_ptr<Media c
 
 Range<long long> Track::trackRangeOf(shared_ptr<Media const> const& media) {
     return media->trackRange();
+}
+
+namespace {
+
+// The item's own track: null for an item that never had one or was taken off, while a track
+// that died under its media is a fault.
+shared_ptr<Track const> neighbourhoodOf(Media const& media) {
+    weak_ptr<Track const> const parent = media.parentTrack();
+    weak_ptr<Track const> const none;
+    if (!parent.owner_before(none) && !none.owner_before(parent))
+        return shared_ptr<Track const>();
+    return shared_ptr<Track const>(parent);
+}
+
+void checkNotNull(void const* item) {
+    if (!item)
+        throw ZelmarMediaLibException("asking for the neighbours of a null media");
+}
+
+}  // namespace
+
+shared_ptr<Media const> Track::leftNeighbour(Media const& media) {
+    shared_ptr<Track const> const track = neighbourhoodOf(media);
+    if (!track)
+        return shared_ptr<Media const>();
+    ReadWriteMutex::ScopedReadLock lock(&track->mutex());
+    MediaMap const& store = track->medias();
+    long long const start = media.startTime();
+    MediaMap::const_iterator at = store.lower_bound(start);
+    if (at == store.begin())
+        return shared_ptr<Media const>();
+    --at;
+    Media const& left = *at->second;
+    return left.startTime() + left.duration() == start ? at->second : shared_ptr<Media const>();
+}
+
+shared_ptr<Media const> Track::rightNeighbour(Media const& media) {
+    shared_ptr<Track const> const track = neighbourhoodOf(media);
+    if (!track)
+        return shared_ptr<Media const>();
+    ReadWriteMutex::ScopedReadLock lock(&track->mutex());
+    MediaMap const& store = track->medias();
+    long long const start = media.startTime();
+    MediaMap::const_iterator const at = store.upper_bound(start);
+    if (at == store.end())
+        return shared_ptr<Media const>();
+    return start + media.duration() == at->second->startTime() ? at->second : shared_ptr<Media const>();
+}
+
+shared_ptr<Transition const> Track::leftTransition(shared_ptr<Media const> media) const {
+    checkNotNull(media.get());
+    return dynamic_pointer_cast<Transition const>(leftNeighbour(*media));
+}
+
+shared_ptr<Transition const> Track::rightTransition(shared_ptr<Media const> media) const {
+    checkNotNull(media.get());
+    return dynamic_pointer_cast<Transition const>(rightNeighbour(*media));
+}
+
+shared_ptr<Media const> Track::leftOfTransition(shared_ptr<Transition const> transition) const {
+    checkNotNull(transition.get());
+    return leftNeighbour(*transition->transitionMediaRepresentation());
+}
+
+shared_ptr<Media const> Track::rightOfTransition(shared_ptr<Transition const> transition) const {
+    checkNotNull(transition.get());
+    return rightNeighbour(*transition->transitionMediaRepresentation());
 }
 
 }  // namespace ZelmarMediaLib

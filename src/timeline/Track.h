@@ -22,6 +22,7 @@ class ConstTrackDispatcher;
 class Media;
 class Source;
 class TrackDispatcher;
+class Transition;
 class VectorEffectable;
 
 // Reads take the project's read lock themselves; edits take none, since the command that
@@ -108,6 +109,18 @@ public:
     shared_ptr<std::list<shared_ptr<Media> > > mediasIntersectingRange(Range<long long> const& range,
                                                                        shared_ptr<Media const> ignored);
     bool intersectionAtRange(Range<long long> const& range) const;
+
+    // Neighbours across exact touching: a gap of one unit ends the relation. Each searches the
+    // given item's own parent track, whichever track it is called on. An item without a
+    // parent has no neighbours; one whose parent died raises boost::bad_weak_ptr.
+    // The transition whose end is the media's start, or null.
+    shared_ptr<Transition const> leftTransition(shared_ptr<Media const> media) const;
+    // The transition that starts at the media's end, or null.
+    shared_ptr<Transition const> rightTransition(shared_ptr<Media const> media) const;
+    // The media of any kind, transitions included, that ends at the transition's start.
+    shared_ptr<Media const> leftOfTransition(shared_ptr<Transition const> transition) const;
+    // The media of any kind that starts at the transition's end.
+    shared_ptr<Media const> rightOfTransition(shared_ptr<Transition const> transition) const;
 
     // What would stand in the way of the media if it took the range, here and, with links, on
     // each linked media's track. The range is tried as it stands on every linked track,
@@ -196,6 +209,9 @@ protected:
     }
 
 private:
+    static shared_ptr<Media const> leftNeighbour(Media const& media);
+    static shared_ptr<Media const> rightNeighbour(Media const& media);
+
     template <class Ignore>
     void collectIntersecting(Range<long long> const& range, Ignore const& ignore, MediaList& hits) const;
     static Range<long long> trackRangeOf(shared_ptr<Media const> const& media);

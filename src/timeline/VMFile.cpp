@@ -1,6 +1,7 @@
 #include <ZelmarMediaLib/timeline/VMFile.h>
 
 #include <ZelmarMediaLib/clipbin/MediaFileStats.h>
+#include <ZelmarMediaLib/clipbin/ScreenMetaData.h>
 #include <ZelmarMediaLib/clipbin/Source.h>
 #include <ZelmarMediaLib/datatypes/ReadWriteMutex.h>
 #include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
@@ -33,16 +34,20 @@ VMFile::VMFile(Range<long long> const& range, Rect<float> const& rect, weak_ptr<
                std::string const& file, double mediaStart, double mediaDuration, unsigned int track)
     : VideoMedia(range, mediaStart, mediaDuration, project),
       file_(new VisualFileMedia(project, file, rect, track)),
+      screenMetaData_(boost::make_shared<Attribute<shared_ptr<ScreenMetaData const> > >(
+          shared_ptr<ScreenMetaData const>(), project)),
       rect_(rect) {}
 
 VMFile::VMFile(Range<long long> const& range, Range<long long> const& limits, weak_ptr<ThreadSafe const> project,
                shared_ptr<Source const> const& source, unsigned int track)
     : VideoMedia(range, static_cast<double>(limits.start), static_cast<double>(limits.duration), project),
-      file_(new VisualFileMedia(project, source, track)) {}
+      file_(new VisualFileMedia(project, source, track)),
+      screenMetaData_(boost::make_shared<Attribute<shared_ptr<ScreenMetaData const> > >(
+          shared_ptr<ScreenMetaData const>(), project)) {}
 
 VMFile::VMFile(VMFile const& other)
     : XMLIdentified(other), VideoMedia(other), FileRepresentation(other), file_(other.file_->clone()),
-      rect_(other.rect_) {}
+      screenMetaData_(other.screenMetaData_->clone()), rect_(other.rect_) {}
 
 VMFile::~VMFile() = default;
 
@@ -82,6 +87,12 @@ void VMFile::xmlAttributes(XMLable::Options& options) const {
         *options.stream << " src=\"" << source->xmlIdent() << '"';
 }
 
+void VMFile::xmlBody(XMLable::Options& options, int indent) const {
+    VisualMedia::xmlBody(options, indent);
+    if (shared_ptr<ScreenMetaData const> const metaData = screenMetaData_->value())
+        metaData->toXML(options, indent, "");
+}
+
 float VMFile::width() const {
     ReadWriteMutex::ScopedReadLock lock(&mutex());
     shared_ptr<Source const> const source = file_->source();
@@ -119,6 +130,14 @@ unsigned int VMFile::trackNumber() const {
 shared_ptr<Source const> VMFile::source() const {
     ReadWriteMutex::ScopedReadLock lock(&mutex());
     return file_->source();
+}
+
+shared_ptr<Attribute<shared_ptr<ScreenMetaData const> > > VMFile::screenMetaData() {
+    return screenMetaData_;
+}
+
+shared_ptr<Attribute<shared_ptr<ScreenMetaData const> > const> VMFile::screenMetaData() const {
+    return screenMetaData_;
 }
 
 }  // namespace ZelmarMediaLib

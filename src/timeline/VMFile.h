@@ -9,7 +9,10 @@
 
 namespace ZelmarMediaLib {
 
+template <class T>
+class Attribute;
 class IMFile;
+class ScreenMetaData;
 class VisualFileMedia;
 
 class VMFile : public VideoMedia, public FileRepresentation {
@@ -34,6 +37,8 @@ public:
     void xmlName(XMLable::Options& options) const override;
     // The media's timing, trackNumber, then src, the source's id, when there is a source.
     void xmlAttributes(XMLable::Options& options) const override;
+    // The visual media's body, then the screen meta data when there is some.
+    void xmlBody(XMLable::Options& options, int indent) const override;
 
     // The source's track rectangle; without a source, the rectangle that was given.
     float width() const override;
@@ -45,6 +50,9 @@ public:
     std::string containerFileName() const override;
     unsigned int trackNumber() const;
     shared_ptr<Source const> source() const;
+    // Empty until the source gives the media its meta data; changed under undo by commands.
+    shared_ptr<Attribute<shared_ptr<ScreenMetaData const> > > screenMetaData();
+    shared_ptr<Attribute<shared_ptr<ScreenMetaData const> > const> screenMetaData() const;
 
 private:
     // The source form, once the track is known to be a video track of the source.
@@ -52,6 +60,8 @@ private:
            shared_ptr<Source const> const& source, unsigned int track);
 
     std::unique_ptr<VisualFileMedia> file_;
+    // A copy shares the meta data object: the side files are those of the same recording.
+    shared_ptr<Attribute<shared_ptr<ScreenMetaData const> > > screenMetaData_;
     // Read only without a source: with one, the size follows the source's file.
     Rect<float> rect_;
 };

@@ -2,6 +2,7 @@
 // the walks over them, the XML with its file tracks, changing the file, and the statistics and
 // files that make no source.
 #include <ZelmarMediaLib/clipbin/MediaFileStats.h>
+#include <ZelmarMediaLib/clipbin/ScreenMetaData.h>
 #include <ZelmarMediaLib/clipbin/Source.h>
 #include <ZelmarMediaLib/exceptions/IOException.h>
 #include <ZelmarMediaLib/exceptions/IndexException.h>
@@ -302,8 +303,12 @@ TEST_F(SourceTest, ChangeFileMovesABundleAndItsTrackFilesAndNotifiesOnce) {
     EXPECT_EQ(after, stats->filename());
     EXPECT_EQ(after + "/capture.mov", stats->filename(0));
     EXPECT_EQ(after + "/capture.mov", stats->filename(1));
-    EXPECT_EQ(before + "/dirtyrect.dat", stats->metaData(0).front()) << "side files wait for screen meta data";
+    EXPECT_EQ(before + "/dirtyrect.dat", stats->metaData(0).front()) << "the statistics keep the side files found";
     shared_ptr<VMFile const> video = dynamic_pointer_cast<VMFile const>(*source->mediaBegin<VisualMedia const>());
+    shared_ptr<ScreenMetaData const> metaData = video->screenMetaData()->value();
+    EXPECT_EQ(after + "/dirtyrect.dat", metaData->dirtyRectsFilename()) << "the screen meta data follows the move";
+    EXPECT_EQ(after + "/cursorlocation.dat", metaData->cursorLocationFilename());
+    EXPECT_EQ("", metaData->cursorActionFilename()) << "the recording has no cursor actions";
     EXPECT_EQ(after + "/capture.mov", video->fileName()) << "medias ask the statistics each time";
     EXPECT_EQ(after, video->containerFileName());
     source->detach(&observer);

@@ -1,5 +1,6 @@
 // The project facade: creation, the command path with its lock, observer and delay, combining,
 // the model it owns, and the document skeleton.
+#include <ZelmarMediaLib/clipbin/ClipBoard.h>
 #include <ZelmarMediaLib/clipbin/MediaFileStats.h>
 #include <ZelmarMediaLib/clipbin/Source.h>
 #include <ZelmarMediaLib/clipbin/SourceBin.h>
@@ -231,6 +232,8 @@ TEST_F(ProjectTest, ModelIsMadeOnceOnTheProjectsLockAndRate) {
     EXPECT_EQ(fast->timeline(), fast->timeline());
     EXPECT_EQ(&fast->mutex(), &fast->timeline()->mutex());
     EXPECT_EQ(&fast->mutex(), &fast->sourceBin()->mutex());
+    EXPECT_EQ(&fast->mutex(), &fast->clipBoard()->mutex());
+    EXPECT_EQ(0, fast->clipBoard()->size());
     shared_ptr<Source> source = fast->sourceBin()->loadFile(media + "/video-audio.mp4");
     EXPECT_EQ(Range<long long>(0, 60), source->timeRange()) << "one second at the project's rate";
     EXPECT_EQ(0, fast->timeline()->numTracks()) << "loading places nothing";

@@ -27,6 +27,7 @@
 #include <memory>
 #include <sstream>
 #include <string>
+#include <vector>
 
 namespace ZelmarMediaLib {
 namespace {
@@ -360,6 +361,30 @@ TEST_F(TimelineTest, CameraStartsAtItsDefaultsAndProjectsFromTheEyesDistance) {
     EXPECT_EQ(fov, view.fovParam()->valueAtTime(0.0)) << "fov is not derived again";
     EXPECT_EQ(TransformMatrix::cameraLookAt(Point(0, 0, 1500), Point(0, 0, 0), Point(0, 1, 0)),
               view.cameraTransformAtTime(0));
+}
+
+// Worked by hand from the defaults: the eye 3000 in front of the origin, looking down -z.
+void expectRows(TransformMatrix const& matrix, std::vector<std::vector<double> > const& rows) {
+    for (int row = 0; row < 4; ++row)
+        for (int column = 0; column < 4; ++column)
+            EXPECT_NEAR(rows[row][column], matrix(row, column), 1e-9) << "at " << row << "," << column;
+}
+
+TEST_F(TimelineTest, CameraAndProjectionMatchMatricesWorkedByHand) {
+    VisualMixer const& view = *timeline->newVisualMixer(640, 480);
+    expectRows(view.cameraTransformAtTime(0), {{1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, -3000}, {0, 0, 0, 1}});
+    expectRows(view.cameraTransformAtTimeLH(0), {{-1, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, -1, 0}, {0, 0, 3000, 1}});
+    // The focal factor is the eye's distance over half the viewport's height: 3000 / 240.
+    double const near = 1.5, far = 6000.0, focal = 12.5;
+    expectRows(view.projectionTransformAtTime(0, Rect<int>(0, 0, 640, 480)),
+               {{focal * 480.0 / 640.0, 0, 0, 0},
+                {0, focal, 0, 0},
+                {0, 0, (far + near) / (near - far), near * 2.0 * far / (near - far)},
+                {0, 0, -1, 0}});
+    // The viewport's height, not the mixer's, sets the angle: half as high doubles the factor.
+    expectRows(view.projectionTransformAtTimeLH(0, Rect<int>(0, 0, 640, 240)),
+               {{25.0 * 240.0 / 640.0, 0, 0, 0}, {0, 25.0, 0, 0}, {0, 0, far / (far - near), 1},
+                {0, 0, -(far * near) / (far - near), 0}});
 }
 
 }  // namespace

@@ -1,6 +1,9 @@
 // Loads media files and screen recording folders into a project's source bin and prints what the
-// library knows of each: the file statistics, the source's XML and its private timeline.
+// library knows of each: the file statistics, the screen meta data, the source's XML and its
+// private timeline.
 #include <ZelmarMediaLib/ZelmarMediaLib.h>
+
+#include <boost/filesystem/operations.hpp>
 
 #include <exception>
 #include <iostream>
@@ -19,12 +22,64 @@ void printUsage(std::ostream& out) {
         << "Loads each PATH, a media file or a screen recording folder (one movie beside its\n"
         << "dirtyrect.dat, frontmost.dat, cursoraction.dat and cursorlocation.dat), into the source\n"
         << "bin of a project at 30 edit units per second, and prints its file statistics, the\n"
-        << "source's XML and the source's private timeline, with one track and one media for each\n"
-        << "track of the file.\n"
+        << "screen meta data of each video track, the source's XML and the source's private\n"
+        << "timeline, with one track and one media for each track of the file.\n"
+        << "\n"
+        << "The screen meta data lists the four side files, whether each was found, and whether\n"
+        << "the set is valid. Each side file found is loaded through a small loader that reads\n"
+        << "only the file's size, into a parameter with one keyframe.\n"
         << "\n"
         << "With no PATH it probes the sample recording " << ZML_SAMPLE_RECORDING << ".\n"
         << "A path that can't be loaded gets one line on the standard error; the exit status is 1\n"
         << "if any path failed, 2 for a wrong option, and 0 otherwise.\n";
+}
+
+// The library reads no side file itself. This loader stands in for an application's: a value
+// is the file's size in bytes, at time 0.
+class FileSizeLoader : public zml::ScreenMetaDataLoader {
+public:
+    zml::shared_ptr<zml::ParameterInterface> loadParameter(std::string const& path,
+                                                           zml::weak_ptr<zml::ProjectEditRate const>,
+                                                           zml::weak_ptr<zml::ThreadSafe const> project,
+                                                           std::string const& name) override {
+        zml::shared_ptr<zml::InterpolatingParam<double> > const value =
+            boost::make_shared<zml::InterpolatingParam<double> >(project, name);
+        value->addKeyFrame(0, static_cast<double>(boost::filesystem::file_size(path)));
+        return value;
+    }
+};
+
+void printSideFile(std::string const& role, std::string const& fileName,
+                   zml::shared_ptr<zml::ParameterInterface> (zml::ScreenMetaData::*load)() const,
+                   zml::ScreenMetaData const& metaData) {
+    std::cout << "  " << role << ": ";
+    if (fileName.empty()) {
+        std::cout << "missing\n";
+        return;
+    }
+    zml::shared_ptr<zml::InterpolatingParam<double> const> const value =
+        zml::dynamic_pointer_cast<zml::InterpolatingParam<double> const>((metaData.*load)());
+    std::cout << fileName << " (" << value->valueAtTime(0.0) << " bytes)\n";
+}
+
+void printScreenMetaData(zml::Source const& source) {
+    int track = 0;
+    for (auto media = source.mediaBegin<zml::VisualMedia const>(); media != source.mediaEnd<zml::VisualMedia const>();
+         ++media, ++track) {
+        zml::shared_ptr<zml::VMFile const> const video = zml::dynamic_pointer_cast<zml::VMFile const>(*media);
+        if (!video || !video->screenMetaData()->value())
+            continue;
+        zml::ScreenMetaData const& metaData = *video->screenMetaData()->value();
+        std::cout << "visual track " << track << ": " << (metaData.isValid() ? "valid" : "not valid") << '\n';
+        printSideFile("topmost window coordinates", metaData.topmostWindowCoordinatesFilename(),
+                      &zml::ScreenMetaData::topmostWindowCoordinates, metaData);
+        printSideFile("cursor location", metaData.cursorLocationFilename(), &zml::ScreenMetaData::cursorLocation,
+                      metaData);
+        printSideFile("cursor action", metaData.cursorActionFilename(), &zml::ScreenMetaData::cursorAction,
+                      metaData);
+        printSideFile("dirty rectangles", metaData.dirtyRectsFilename(), &zml::ScreenMetaData::dirtyRects,
+                      metaData);
+    }
 }
 
 // Prints one loaded source; the statistics are read through the source, as an application would.
@@ -32,7 +87,9 @@ void probe(zml::SourceBin& bin, std::string const& path) {
     zml::shared_ptr<zml::Source> const source = bin.loadFile(path);
     std::cout << "== " << path << "\n"
               << "-- statistics\n"
-              << source->mediaFileStats()->description() << "-- source\n";
+              << source->mediaFileStats()->description() << "-- screen meta data\n";
+    printScreenMetaData(*source);
+    std::cout << "-- source\n";
     source->toXML(std::cout);
     std::cout << "-- private timeline\n";
     source->timeline()->toXML(std::cout);
@@ -63,6 +120,8 @@ int main(int argc, char** argv) {
 
     int status = 0;
     try {
+        FileSizeLoader loader;
+        zml::ScreenMetaData::setLazyLoader(&loader);
         zml::shared_ptr<zml::Project> const project = zml::Project::create(30, 1);
         zml::shared_ptr<zml::SourceBin> const bin = project->sourceBin();
         for (std::string const& path : paths) {
