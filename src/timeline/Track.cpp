@@ -593,32 +593,37 @@ void checkNotNull(void const* item) {
 
 }  // namespace
 
-shared_ptr<Media const> Track::leftNeighbour(Media const& media) {
+// Calls look(store) with the item's own track read-locked; without a track there is nothing
+// to look at and the answer is null.
+template <class Look>
+shared_ptr<Media const> Track::lookAroundOnOwnTrack(Media const& media, Look const& look) {
     shared_ptr<Track const> const track = neighbourhoodOf(media);
     if (!track)
         return shared_ptr<Media const>();
     ReadWriteMutex::ScopedReadLock lock(&track->mutex());
-    MediaMap const& store = track->medias();
-    long long const start = media.startTime();
-    MediaMap::const_iterator at = store.lower_bound(start);
-    if (at == store.begin())
-        return shared_ptr<Media const>();
-    --at;
-    Media const& left = *at->second;
-    return left.startTime() + left.duration() == start ? at->second : shared_ptr<Media const>();
+    return look(track->medias());
+}
+
+shared_ptr<Media const> Track::leftNeighbour(Media const& media) {
+    return lookAroundOnOwnTrack(media, [&media](MediaMap const& store) {
+        long long const start = media.startTime();
+        MediaMap::const_iterator at = store.lower_bound(start);
+        if (at == store.begin())
+            return shared_ptr<Media const>();
+        --at;
+        Media const& left = *at->second;
+        return left.startTime() + left.duration() == start ? at->second : shared_ptr<Media const>();
+    });
 }
 
 shared_ptr<Media const> Track::rightNeighbour(Media const& media) {
-    shared_ptr<Track const> const track = neighbourhoodOf(media);
-    if (!track)
-        return shared_ptr<Media const>();
-    ReadWriteMutex::ScopedReadLock lock(&track->mutex());
-    MediaMap const& store = track->medias();
-    long long const start = media.startTime();
-    MediaMap::const_iterator const at = store.upper_bound(start);
-    if (at == store.end())
-        return shared_ptr<Media const>();
-    return start + media.duration() == at->second->startTime() ? at->second : shared_ptr<Media const>();
+    return lookAroundOnOwnTrack(media, [&media](MediaMap const& store) {
+        long long const start = media.startTime(), end = start + media.duration();
+        MediaMap::const_iterator const at = store.upper_bound(start);
+        if (at == store.end())
+            return shared_ptr<Media const>();
+        return at->second->startTime() == end ? at->second : shared_ptr<Media const>();
+    });
 }
 
 shared_ptr<Transition const> Track::leftTransition(shared_ptr<Media const> media) const {

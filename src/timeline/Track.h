@@ -209,6 +209,8 @@ protected:
     }
 
 private:
+    template <class Look>
+    static shared_ptr<Media const> lookAroundOnOwnTrack(Media const& media, Look const& look);
     static shared_ptr<Media const> leftNeighbour(Media const& media);
     static shared_ptr<Media const> rightNeighbour(Media const& media);
 

@@ -1,7 +1,6 @@
 // The concrete media kinds: crops and placement of pictures, stills' time, transitions'
 // single effect, annotations' text, file medias on a source's tracks, and their XML attributes.
 #include <ZelmarMediaLib/clipbin/Source.h>
-#include <ZelmarMediaLib/effects/CompositeEffect.h>
 #include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
 #include <ZelmarMediaLib/parameters/Attribute.h>
 #include <ZelmarMediaLib/parameters/InterpolatingParam.h>
@@ -17,6 +16,7 @@
 #include <ZelmarMediaLib/timeline/VMFile.h>
 
 #include "support/HandBuiltStats.h"
+#include "support/PlainEffect.h"
 #include "support/XmlCheck.h"
 
 #include <gtest/gtest.h>
@@ -25,17 +25,6 @@
 
 namespace ZelmarMediaLib {
 namespace {
-
-// The smallest effect that can stand in a chain.
-class Dissolve : public CompositeEffect {
-public:
-    explicit Dissolve(weak_ptr<ThreadSafe const> project) : CompositeEffect("Dissolve", project) {}
-    Dissolve* clone() const override { return new Dissolve(*this); }
-    std::list<ParameterInterface const*> parameters() const override { return {}; }
-    double toParameterTime(double time) const override { return time; }
-    double fromParameterTime(double time) const override { return time; }
-    ParameterVector* parameterVector() const override { return new ParameterVector(projectMutex()); }
-};
 
 class MediaKindsTest : public ::testing::Test {
 protected:
@@ -122,7 +111,8 @@ TEST_F(MediaKindsTest, CalloutWritesTextRectAndHotspotWithTwoBlanksBetween) {
 TEST_F(MediaKindsTest, ImageTransitionHoldsOneEffectAndHasNoSize) {
     shared_ptr<ImageTransition> transition = boost::make_shared<ImageTransition>(30, project);
     EXPECT_FALSE(transition->transitionEffect());
-    shared_ptr<Effect> first = boost::make_shared<Dissolve>(project), second = boost::make_shared<Dissolve>(project);
+    shared_ptr<Effect> first = boost::make_shared<test::PlainEffect>("Dissolve", project);
+    shared_ptr<Effect> second = boost::make_shared<test::PlainEffect>("Dissolve", project);
     transition->addEffect(first);
     try {
         transition->addEffect(second);
@@ -146,7 +136,7 @@ TEST_F(MediaKindsTest, ImageTransitionHoldsOneEffectAndHasNoSize) {
 }
 
 TEST_F(MediaKindsTest, AudioTransitionHasNoChannelsToSplit) {
-    shared_ptr<Effect const> effect = boost::make_shared<Dissolve>(project);
+    shared_ptr<Effect const> effect = boost::make_shared<test::PlainEffect>("Dissolve", project);
     AudioTransition transition(20, effect, project);
     EXPECT_EQ(effect, transition.transitionEffect());
     EXPECT_EQ(0, transition.numChannels());

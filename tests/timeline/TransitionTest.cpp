@@ -1,5 +1,4 @@
 // Transitions between medias: who touches whom on a track, and how a transition writes itself.
-#include <ZelmarMediaLib/effects/CompositeEffect.h>
 #include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
 #include <ZelmarMediaLib/project/Project.h>
 #include <ZelmarMediaLib/timeline/AudioTrack.h>
@@ -8,6 +7,7 @@
 #include <ZelmarMediaLib/timeline/VMFile.h>
 #include <ZelmarMediaLib/timeline/VisualTrack.h>
 
+#include "support/PlainEffect.h"
 #include "support/XmlCheck.h"
 
 #include <gtest/gtest.h>
@@ -17,16 +17,6 @@
 
 namespace ZelmarMediaLib {
 namespace {
-
-class Wipe : public CompositeEffect {
-public:
-    explicit Wipe(weak_ptr<ThreadSafe const> project) : CompositeEffect("Wipe", project) {}
-    Wipe* clone() const override { return new Wipe(*this); }
-    std::list<ParameterInterface const*> parameters() const override { return {}; }
-    double toParameterTime(double time) const override { return time; }
-    double fromParameterTime(double time) const override { return time; }
-    ParameterVector* parameterVector() const override { return new ParameterVector(projectMutex()); }
-};
 
 std::string xml(XMLable const& object) {
     std::ostringstream out;
@@ -106,7 +96,7 @@ TEST_F(TransitionNeighbourTest, TheItemsOwnTrackIsSearchedWhateverTrackIsAsked) 
 
 TEST(TransitionXmlTest, TransitionsWriteTheirPlaceAndTheirEffectButNoPlacement) {
     shared_ptr<Project> project = Project::create(30, 1);
-    shared_ptr<Effect> wipe = boost::make_shared<Wipe>(project);
+    shared_ptr<Effect> wipe = boost::make_shared<test::PlainEffect>("Wipe", project);
     shared_ptr<ImageTransition> picture = boost::make_shared<ImageTransition>(30, wipe, project);
     shared_ptr<VisualTrack> visual = boost::make_shared<VisualTrack>(project);
     visual->addMedia(picture, 100);
