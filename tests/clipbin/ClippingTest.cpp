@@ -30,11 +30,7 @@ namespace {
 std::string const noMedias = "trying to make a clipping with no medias";
 unsigned int const missing = 0xFFFFFFFFu;
 
-std::string xml(XMLable const& object) {
-    std::ostringstream out;
-    object.toXML(out);
-    return out.str();
-}
+using test::xml;
 
 template <class F>
 void expectRefusal(F const& action, std::string const& text) {

@@ -24,6 +24,8 @@
 namespace ZelmarMediaLib {
 namespace {
 
+using test::xml;
+
 // Hands out a fresh parameter for each load and remembers what it was asked.
 class RecordingLoader : public ScreenMetaDataLoader {
 public:
@@ -69,12 +71,6 @@ protected:
     // The loader is process-wide: no test may leave one behind.
     void TearDown() override { ScreenMetaData::setLazyLoader(nullptr); }
 
-    static std::string xml(XMLable const& object, std::string const& base = std::string()) {
-        std::ostringstream out;
-        XMLable::Options options(&out, base);
-        object.toXML(options, 0, "");
-        return out.str();
-    }
 };
 
 TEST_F(ScreenMetaDataTest, AValueIsLoadedOnceAndEveryCallNeedsALoader) {

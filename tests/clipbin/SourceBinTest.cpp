@@ -35,11 +35,7 @@ std::string id(XMLable const& object) {
     return std::to_string(object.xmlIdent());
 }
 
-std::string xml(XMLable const& object) {
-    std::ostringstream out;
-    object.toXML(out);
-    return out.str();
-}
+using test::xml;
 
 // Says yes or no as told, and remembers the files it was asked about.
 class Sentry : public SourceBinSentry {

@@ -40,12 +40,7 @@ std::string id(XMLable const& object) {
     return std::to_string(object.xmlIdent());
 }
 
-std::string xml(XMLable const& object, std::string const& baseDirectory = "") {
-    std::ostringstream out;
-    XMLable::Options options(&out, baseDirectory);
-    object.toXML(options, 0, "");
-    return out.str();
-}
+using test::xml;
 
 template <class E, class F>
 void expectText(F const& action, std::string const& text) {

@@ -63,11 +63,7 @@ public:
     long long globalTimeToEffectTime(long long time) const override { return time - 100; }
 };
 
-std::string xmlOf(XMLable const& object) {
-    std::ostringstream out;
-    object.toXML(out);
-    return out.str();
-}
+using test::xml;
 
 class EffectChainTest : public ::testing::Test {
 protected:
@@ -228,14 +224,14 @@ TEST_F(EffectChainTest, EffectXmlListsItsParametersWithoutNames) {
                                  "  </InterpolatingParam>\n"
                                  " </Parameters>\n"
                                  "</Effect>\n";
-    EXPECT_EQ(expected, xmlOf(gain));
-    EXPECT_TRUE(test::isWellFormedXml(xmlOf(gain)));
+    EXPECT_EQ(expected, xml(gain));
+    EXPECT_TRUE(test::isWellFormedXml(xml(gain)));
 }
 
 TEST_F(EffectChainTest, CompositeEffectXmlIsItsNameAlone) {
     GroupEffect group("Glow", project);
     EXPECT_EQ("<CompositeEffect id=\"" + std::to_string(group.xmlIdent()) + "\" name=\"Glow\" >\n</CompositeEffect>\n",
-              xmlOf(group));
+              xml(group));
 }
 
 }  // namespace

@@ -1,9 +1,20 @@
 #include "support/XmlCheck.h"
 
+#include <ZelmarMediaLib/datatypes/XMLable.h>
+
 #include <libxml/parser.h>
+
+#include <sstream>
 
 namespace ZelmarMediaLib {
 namespace test {
+
+std::string xml(XMLable const& object, std::string const& baseDirectory) {
+    std::ostringstream out;
+    XMLable::Options options(&out, baseDirectory);
+    object.toXML(options, 0, "");
+    return out.str();
+}
 
 bool isWellFormedXml(std::string const& text, std::string* error) {
     xmlDocPtr document = xmlReadMemory(text.data(), static_cast<int>(text.size()), "written.xml", nullptr,

@@ -1,9 +1,16 @@
 #pragma once
-// Test helpers: a real XML parser's verdict on written text.
+// Test helpers: an object's XML as text, and a real XML parser's verdict on written text.
 #include <string>
 
 namespace ZelmarMediaLib {
+
+class XMLable;
+
 namespace test {
+
+// The object's element at indent 0 with no extra attributes; absolute paths are made relative
+// to baseDirectory when it is given.
+std::string xml(XMLable const& object, std::string const& baseDirectory = std::string());
 
 // True when libxml2 parses the text as a well-formed document; the parser's first
 // complaint goes to *error.

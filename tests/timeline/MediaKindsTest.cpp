@@ -26,6 +26,8 @@
 namespace ZelmarMediaLib {
 namespace {
 
+using test::xml;
+
 class MediaKindsTest : public ::testing::Test {
 protected:
     shared_ptr<Project> project = Project::create(30, 1);
@@ -33,11 +35,6 @@ protected:
     shared_ptr<VMFile> video() {
         return boost::make_shared<VMFile>(Range<long long>(0, 300), Rect<float>(0, 0, 100, 50), project, "/v.mov", 0.0,
                                           300.0, 0u);
-    }
-    std::string xml(XMLable const& object) {
-        std::ostringstream out;
-        object.toXML(out);
-        return out.str();
     }
 };
 

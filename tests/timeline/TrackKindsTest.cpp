@@ -34,11 +34,7 @@
 namespace ZelmarMediaLib {
 namespace {
 
-std::string xml(XMLable const& object) {
-    std::ostringstream out;
-    object.toXML(out);
-    return out.str();
-}
+using test::xml;
 
 std::string id(XMLable const& object) {
     return std::to_string(object.xmlIdent());

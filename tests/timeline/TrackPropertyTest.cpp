@@ -5,6 +5,8 @@
 #include <ZelmarMediaLib/timeline/AMFile.h>
 #include <ZelmarMediaLib/timeline/AudioTrack.h>
 
+#include "support/XmlCheck.h"
+
 #include <gtest/gtest.h>
 
 #include <random>
@@ -15,11 +17,7 @@
 namespace ZelmarMediaLib {
 namespace {
 
-std::string xml(XMLable const& object) {
-    std::ostringstream out;
-    object.toXML(out);
-    return out.str();
-}
+using test::xml;
 
 // Each key is its media's start, each media names this track as its parent, and no media
 // reaches into the next.

@@ -10,6 +10,8 @@
 
 #include "support/CountingObserver.h"
 
+#include "support/XmlCheck.h"
+
 #include <gtest/gtest.h>
 
 #include <initializer_list>
@@ -24,11 +26,7 @@ namespace {
 typedef std::vector<std::pair<long long, long long> > Layout;
 typedef Track::MediaList MediaList;
 
-std::string xml(XMLable const& object) {
-    std::ostringstream out;
-    object.toXML(out);
-    return out.str();
-}
+using test::xml;
 
 // The track holds exactly these ranges, in order, each under its own start.
 void expectTrack(Track const& track, Layout const& layout) {

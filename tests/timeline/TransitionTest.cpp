@@ -18,11 +18,7 @@
 namespace ZelmarMediaLib {
 namespace {
 
-std::string xml(XMLable const& object) {
-    std::ostringstream out;
-    object.toXML(out);
-    return out.str();
-}
+using test::xml;
 
 // A track of  [A 0..100)[X 100..130)[B 130..230) [Y 231..261)[Z 261..271)
 // where X, Y and Z are transitions: Y stands one unit after B, and Z butts against Y.
