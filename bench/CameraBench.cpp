@@ -12,7 +12,7 @@ namespace {
 namespace zml = ZelmarMediaLib;
 
 // Both matrices of one frame, with the eye moving over keyframes per component.
-void cameraAndProjectionPerFrame(benchmark::State& state) {
+void BM_CameraAndProjectionPerFrame(benchmark::State& state) {
     zml::shared_ptr<zml::Project> const project = zml::Project::create(30, 1);
     zml::shared_ptr<zml::Timeline> const timeline = project->timeline();
     zml::shared_ptr<zml::VisualMixer> const mixer = timeline->newVisualMixer(1920, 1080);
@@ -27,6 +27,6 @@ void cameraAndProjectionPerFrame(benchmark::State& state) {
         time = (time + 7) % (keyframes * 30);
     }
 }
-BENCHMARK(cameraAndProjectionPerFrame)->Arg(1)->Arg(100);
+BENCHMARK(BM_CameraAndProjectionPerFrame)->Arg(1)->Arg(100);
 
 }  // namespace
