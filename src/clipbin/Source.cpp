@@ -354,20 +354,16 @@ void Source::addMetaData(shared_ptr<VMFile> const& media, std::vector<std::strin
 }
 
 void Source::updateScreenMetaData(std::string const& oldPath, std::string const& newPath) {
+    auto const moved = [&](std::string path) {
+        replacePath(oldPath, newPath, &path);
+        return path;
+    };
     for (auto const& entry : screenMetaData_) {
         ScreenMetaData& metaData = *entry.second;
-        std::string path = metaData.topmostWindowCoordinatesFilename();
-        replacePath(oldPath, newPath, &path);
-        metaData.setTopmostWindowCoordinates(path);
-        path = metaData.cursorLocationFilename();
-        replacePath(oldPath, newPath, &path);
-        metaData.setCursorLocation(path);
-        path = metaData.cursorActionFilename();
-        replacePath(oldPath, newPath, &path);
-        metaData.setCursorAction(path);
-        path = metaData.dirtyRectsFilename();
-        replacePath(oldPath, newPath, &path);
-        metaData.setDirtyRects(path);
+        metaData.setTopmostWindowCoordinates(moved(metaData.topmostWindowCoordinatesFilename()));
+        metaData.setCursorLocation(moved(metaData.cursorLocationFilename()));
+        metaData.setCursorAction(moved(metaData.cursorActionFilename()));
+        metaData.setDirtyRects(moved(metaData.dirtyRectsFilename()));
     }
 }
 

@@ -16,6 +16,7 @@
 #include <ZelmarMediaLib/timeline/VisualTrack.h>
 
 #include "support/HandBuiltStats.h"
+#include "support/ExpectText.h"
 #include "support/XmlCheck.h"
 
 #include <gtest/gtest.h>
@@ -32,14 +33,10 @@ unsigned int const missing = 0xFFFFFFFFu;
 
 using test::xml;
 
-template <class F>
-void expectRefusal(F const& action, std::string const& text) {
-    try {
-        action();
-        ADD_FAILURE() << "no exception; expected: " << text;
-    } catch (ZelmarMediaLibException const& error) {
-        EXPECT_EQ(text, error.what());
-    }
+// Refused with the library's own exception and exactly this text.
+template <class Action>
+void expectRefusal(Action const& action, std::string const& text) {
+    test::expectText<ZelmarMediaLibException>(action, text);
 }
 
 std::vector<long long> starts(shared_ptr<Track const> const& track) {

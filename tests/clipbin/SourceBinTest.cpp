@@ -31,9 +31,7 @@ namespace fs = boost::filesystem;
 
 std::string const media = ZML_TEST_MEDIA_DIR;
 
-std::string id(XMLable const& object) {
-    return std::to_string(object.xmlIdent());
-}
+using test::id;
 
 using test::xml;
 

@@ -18,6 +18,7 @@
 
 #include "support/CountingObserver.h"
 #include "support/HandBuiltStats.h"
+#include "support/ExpectText.h"
 #include "support/XmlCheck.h"
 
 #include <boost/filesystem.hpp>
@@ -36,21 +37,11 @@ namespace fs = boost::filesystem;
 
 std::string const media = ZML_TEST_MEDIA_DIR;
 
-std::string id(XMLable const& object) {
-    return std::to_string(object.xmlIdent());
-}
+using test::id;
 
 using test::xml;
 
-template <class E, class F>
-void expectText(F const& action, std::string const& text) {
-    try {
-        action();
-        ADD_FAILURE() << "no exception; expected: " << text;
-    } catch (E const& error) {
-        EXPECT_EQ(text, error.what());
-    }
-}
+using test::expectText;
 
 class SourceTest : public ::testing::Test {
 protected:

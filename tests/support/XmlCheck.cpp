@@ -16,6 +16,10 @@ std::string xml(XMLable const& object, std::string const& baseDirectory) {
     return out.str();
 }
 
+std::string id(XMLable const& object) {
+    return std::to_string(object.xmlIdent());
+}
+
 bool isWellFormedXml(std::string const& text, std::string* error) {
     xmlDocPtr document = xmlReadMemory(text.data(), static_cast<int>(text.size()), "written.xml", nullptr,
                                        XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING);

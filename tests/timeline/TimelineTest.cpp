@@ -19,6 +19,7 @@
 #include <ZelmarMediaLib/timeline/VisualTrack.h>
 
 #include "support/CountingObserver.h"
+#include "support/ExpectText.h"
 #include "support/XmlCheck.h"
 
 #include <gtest/gtest.h>
@@ -34,19 +35,9 @@ namespace {
 
 using test::xml;
 
-std::string id(XMLable const& object) {
-    return std::to_string(object.xmlIdent());
-}
+using test::id;
 
-template <class E, class Call>
-void expectText(Call call, std::string const& text) {
-    try {
-        call();
-        ADD_FAILURE() << "expected: " << text;
-    } catch (E const& error) {
-        EXPECT_EQ(text, error.what());
-    }
-}
+using test::expectText;
 
 class TimelineTest : public ::testing::Test {
 protected:
