@@ -5,7 +5,7 @@
 set -euo pipefail
 
 packages=(
-  build-essential cmake ninja-build pkg-config
+  build-essential cmake ninja-build pkg-config ccache
   libboost-dev libboost-filesystem-dev libboost-date-time-dev
   libboost-thread-dev libboost-system-dev
   libgtest-dev libgmock-dev libbenchmark-dev

@@ -7,10 +7,9 @@
 #include <ZelmarMediaLib/datatypes/Color.h>
 #include <ZelmarMediaLib/datatypes/ConstIterator.h>
 #include <ZelmarMediaLib/datatypes/EncodingConverter.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/GraphicsUtil.h>
 #include <ZelmarMediaLib/datatypes/IdentManager.h>
-#include <ZelmarMediaLib/datatypes/LinkCloneUtil.h>
-#include <ZelmarMediaLib/datatypes/LinkUtil.h>
 #include <ZelmarMediaLib/datatypes/MTVector.h>
 #include <ZelmarMediaLib/datatypes/NotifyDelay.h>
 #include <ZelmarMediaLib/datatypes/Observer.h>
@@ -106,6 +105,8 @@
 #include <ZelmarMediaLib/timeline/AudioMixer.h>
 #include <ZelmarMediaLib/timeline/AudioTrack.h>
 #include <ZelmarMediaLib/timeline/ImageTrack.h>
+#include <ZelmarMediaLib/timeline/LinkCloneUtil.h>
+#include <ZelmarMediaLib/timeline/LinkUtil.h>
 #include <ZelmarMediaLib/timeline/Mixer.h>
 #include <ZelmarMediaLib/timeline/Timeline.h>
 #include <ZelmarMediaLib/timeline/Track.h>
@@ -119,7 +120,6 @@
 #include <ZelmarMediaLib/clipbin/MediaFileStats.h>
 #include <ZelmarMediaLib/clipbin/MediaFileStatsPosix.h>
 #include <ZelmarMediaLib/clipbin/ScreenMetaData.h>
-#include <ZelmarMediaLib/clipbin/ScreenMetaDataImpl.h>
 #include <ZelmarMediaLib/clipbin/ScreenMetaDataLoader.h>
 #include <ZelmarMediaLib/clipbin/Source.h>
 #include <ZelmarMediaLib/clipbin/SourceBin.h>
@@ -133,7 +133,27 @@
 #include <ZelmarMediaLib/commands/CommandPair.h>
 #include <ZelmarMediaLib/commands/MultiCommand.h>
 #include <ZelmarMediaLib/commands/NullCmd.h>
+#include <ZelmarMediaLib/commands/keyframes/AddParameterKeyFrameCmd.h>
+#include <ZelmarMediaLib/commands/keyframes/ChangeAllKeyFramesByDeltaCmd.h>
+#include <ZelmarMediaLib/commands/keyframes/ChangeParameterKeyFrameByDeltaCmd.h>
+#include <ZelmarMediaLib/commands/keyframes/ChangeParameterKeyFrameCmd.h>
+#include <ZelmarMediaLib/commands/keyframes/KeyFrameEditCmd.h>
+#include <ZelmarMediaLib/commands/keyframes/KeyFrameTime.h>
+#include <ZelmarMediaLib/commands/keyframes/MoveParameterKeyFrameCmd.h>
+#include <ZelmarMediaLib/commands/keyframes/RemoveParameterKeyFrameCmd.h>
+#include <ZelmarMediaLib/commands/links/AddLinkCmd.h>
+#include <ZelmarMediaLib/commands/links/LinkCmd.h>
+#include <ZelmarMediaLib/commands/links/RemoveLinkCmd.h>
+#include <ZelmarMediaLib/commands/links/UnlinkCmd.h>
+#include <ZelmarMediaLib/commands/placement/AddMediaCmd.h>
+#include <ZelmarMediaLib/commands/placement/AddMediaGuard.h>
+#include <ZelmarMediaLib/commands/placement/AtomicEditCmd.h>
+#include <ZelmarMediaLib/commands/placement/MoveCmd.h>
+#include <ZelmarMediaLib/commands/placement/RemoveMediaCmd.h>
+#include <ZelmarMediaLib/commands/placement/StretchCmd.h>
+#include <ZelmarMediaLib/commands/placement/TrimEndCmd.h>
+#include <ZelmarMediaLib/commands/placement/TrimStartCmd.h>
 
 #include <ZelmarMediaLib/project/CommandObserver.h>
-#include <ZelmarMediaLib/project/InternalProject.h>
 #include <ZelmarMediaLib/project/Project.h>
+#include <ZelmarMediaLib/project/Version.h>

@@ -2,6 +2,7 @@
 // The project's list of clippings, in the order they were made; the clipping commands add and take out.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
 #include <ZelmarMediaLib/datatypes/ConstIterator.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/SubProject.h>
 
 #include <list>
@@ -13,7 +14,7 @@ class Clipping;
 
 // No observers: adding and removing send no notification. Changes take only the read lock:
 // they run on the command path, whose write lock already keeps every other thread out.
-class ClipBoard : public SubProject {
+class ZML_EXPORT ClipBoard : public SubProject {
 public:
     typedef std::list<shared_ptr<Clipping> > ClippingList;
 

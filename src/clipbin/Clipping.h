@@ -1,6 +1,7 @@
 #pragma once
 // A copied piece of a timeline: clones that start at time 0, and how their tracks stood to each other.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Range.h>
 #include <ZelmarMediaLib/datatypes/SubProject.h>
 #include <ZelmarMediaLib/datatypes/XMLable.h>
@@ -20,7 +21,7 @@ class Track;
 
 // A clipping doesn't change once it is made, so its questions take no lock. Making one runs
 // inside a command, under the lock that the command path holds.
-class Clipping : public SubProject, public XMLable {
+class ZML_EXPORT Clipping : public SubProject, public XMLable {
 public:
     typedef std::set<shared_ptr<Track const> > TrackSet;
     // A track of the clipping's own timeline to its place in the piece, 0 being the lowest.

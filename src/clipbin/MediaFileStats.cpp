@@ -7,10 +7,48 @@
 #include <ZelmarMediaLib/exceptions/IndexException.h>
 #include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
 
+#include <cerrno>
 #include <ostream>
 #include <sstream>
+#include <system_error>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace ZelmarMediaLib {
+
+namespace {
+
+std::string errorText(int error) {
+    switch (error) {
+    case ENOENT:
+    case ENOTDIR:
+        return "no such file";
+    case EACCES:
+    case EPERM:
+        return "permission denied";
+    default:
+        return std::generic_category().message(error);
+    }
+}
+
+// What the file system says against reading the path; empty for a file or folder that can be
+// opened. Opened without blocking, so that a FIFO put in place meanwhile can't hold the caller.
+std::string fileSystemRefusal(std::string const& path) {
+    struct stat status;
+    if (::stat(path.c_str(), &status) != 0)
+        return errorText(errno);
+    if (!S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode))
+        return "not a regular file";
+    int const fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0)
+        return errorText(errno);
+    ::close(fd);
+    return std::string();
+}
+
+}  // namespace
 
 std::set<StatsLoader*> MediaFileStats::s_statsLoaders;
 bool MediaFileStats::s_defaultStatsLoaderAdded = false;
@@ -31,7 +69,7 @@ MediaFileStats::MediaFileStats(std::string const& path) {
     ensureDefaultStatsLoader();
     StatsLoader* const loader = findAppropriateStatsLoader(path);
     if (!loader)
-        throw IOException("No appropriate stats loader for file: " + path);
+        throw IOException(noLoaderMessage(path));
     // A loader that raises leaves a half-made object, which the failed construction destroys.
     loader->loadStats(path, this);
 }
@@ -137,16 +175,31 @@ unsigned int MediaFileStats::fileTrackNumberForTrackNumber(unsigned int track) c
         if (tracks_[i].type == wanted.type && tracks_[i].filename == wanted.filename)
             ++sameBefore;
     }
-    shared_ptr<MediaFileStats const> const component = create(wanted.filename);
+    std::vector<TrackType> const component = componentTrackTypes(wanted.filename);
     unsigned int seen = 0;
-    for (unsigned int i = 0; i < component->numTracks(); ++i) {
-        if (component->tracks_[i].type != wanted.type)
+    for (unsigned int i = 0; i < component.size(); ++i) {
+        if (component[i] != wanted.type)
             continue;
         if (seen == sameBefore)
             return i;
         ++seen;
     }
-    return component->numTracks();
+    return static_cast<unsigned int>(component.size());
+}
+
+std::vector<MediaFileStats::TrackType> MediaFileStats::componentTrackTypes(std::string const& file) const {
+    // Held while the file is read, so that threads asking at once read it once between them.
+    std::lock_guard<std::mutex> const lock(componentCache_.mutex);
+    std::map<std::string, std::vector<TrackType> >::const_iterator const known = componentCache_.trackTypes.find(file);
+    if (known != componentCache_.trackTypes.end())
+        return known->second;
+    // A file that fails raises and is not remembered: the next call tries again.
+    shared_ptr<MediaFileStats const> const component = create(file);
+    std::vector<TrackType> types;
+    for (TrackStats const& track : component->tracks_)
+        types.push_back(track.type);
+    componentCache_.trackTypes[file] = types;
+    return types;
 }
 
 bool MediaFileStats::isFileOpenable(std::string const& path) {
@@ -167,6 +220,17 @@ void MediaFileStats::ensureDefaultStatsLoader() {
     static AVFormatStatsLoader defaultLoader;
     s_statsLoaders.insert(&defaultLoader);
     s_defaultStatsLoaderAdded = true;
+}
+
+std::string MediaFileStats::noLoaderMessage(std::string const& path) {
+    std::string reason = fileSystemRefusal(path);
+    for (StatsLoader* const loader : s_statsLoaders) {
+        if (!reason.empty())
+            break;
+        reason = loader->refusalReason(path);
+    }
+    std::string const message = "No appropriate stats loader for file: " + path;
+    return reason.empty() ? message : message + " (" + reason + ")";
 }
 
 StatsLoader* MediaFileStats::findAppropriateStatsLoader(std::string const& path) {

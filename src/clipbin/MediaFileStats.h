@@ -1,10 +1,13 @@
 #pragma once
 // What the library knows of a media file: its name, its picture size and the figures of each track.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Range.h>
 #include <ZelmarMediaLib/datatypes/Rect.h>
 #include <ZelmarMediaLib/datatypes/ZelmarObject.h>
 
+#include <map>
+#include <mutex>
 #include <set>
 #include <string>
 #include <vector>
@@ -15,7 +18,7 @@ class StatsLoader;
 
 // Read once by a StatsLoader, plain data afterwards; or filled in by hand through create(),
 // setRect and addTrackStats, which needs no loader and no file at all.
-class MediaFileStats : public virtual ZelmarObject {
+class ZML_EXPORT MediaFileStats : public virtual ZelmarObject {
 public:
     // The numbers are written to XML as they stand.
     enum TrackType { Video = 0, Image = 1, Audio = 2 };
@@ -65,8 +68,9 @@ public:
     void addTrackStats(TrackStats const& stats);
 
     // The number of the track inside its component file, when this is a bundle (track 0 names a
-    // file); the number itself otherwise. The component file is read again on every call. A
-    // track that its component file lacks gives that file's track count.
+    // file); the number itself otherwise. Each component file is read once, on the first call
+    // that needs it; safe to call from several threads. A track that its component file lacks
+    // gives that file's track count.
     unsigned int fileTrackNumberForTrackNumber(unsigned int track) const;
 
     // Whether some loader says it can open the path; nothing beyond that is read.
@@ -83,11 +87,27 @@ private:
     // Every loader is asked, in the order of the set; the last that says yes wins, so among
     // several able loaders the one with the highest address is used.
     static StatsLoader* findAppropriateStatsLoader(std::string const& path);
+    // "No appropriate stats loader for file: " and the path, which applications may look for,
+    // then in brackets why, when the file system or a loader can tell: missing, unreadable, not
+    // a regular file, a playlist, a folder with two movies.
+    static std::string noLoaderMessage(std::string const& path);
     TrackStats const& checkedTrackStats(unsigned int track) const;
+    std::vector<TrackType> componentTrackTypes(std::string const& file) const;
+
+    // What the track numbers of a bundle need of its component files: the type of each of their
+    // tracks, by file name. A copy starts empty rather than share the lock.
+    struct ComponentCache {
+        ComponentCache() = default;
+        ComponentCache(ComponentCache const&) {}
+        ComponentCache& operator=(ComponentCache const&) { return *this; }
+        std::mutex mutex;
+        std::map<std::string, std::vector<TrackType> > trackTypes;
+    };
 
     std::string filename_;
     std::vector<TrackStats> tracks_;
     Rect<int> rect_;
+    mutable ComponentCache componentCache_;
 
     // Process-wide and without a lock: an application registers its loaders before it loads
     // files from more than one thread, and the first loads must not race either, since they

@@ -1,12 +1,13 @@
 #pragma once
 // The statistics object that MediaFileStats::create makes on POSIX systems.
 #include <ZelmarMediaLib/clipbin/MediaFileStats.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 
 #include <string>
 
 namespace ZelmarMediaLib {
 
-class MediaFileStatsPosix : public MediaFileStats {
+class ZML_EXPORT MediaFileStatsPosix : public MediaFileStats {
 public:
     MediaFileStatsPosix();
     // Reads the file; raises IOException when no loader can, and then no object exists.

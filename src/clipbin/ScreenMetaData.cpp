@@ -1,6 +1,6 @@
 #include <ZelmarMediaLib/clipbin/ScreenMetaData.h>
 
-#include <ZelmarMediaLib/clipbin/ScreenMetaDataImpl.h>
+#include <ZelmarMediaLib/clipbin/detail/ScreenMetaDataImpl.h>
 
 #include <atomic>
 

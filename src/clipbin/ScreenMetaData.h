@@ -1,6 +1,7 @@
 #pragma once
 // The four side files of a screen recording's video track, whose values are loaded on demand.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/ThreadSafe.h>
 #include <ZelmarMediaLib/datatypes/XMLable.h>
 
@@ -16,7 +17,7 @@ class ScreenMetaDataLoader;
 // The side files are the topmost window's coordinates, the cursor's location, the cursor's
 // actions and the changed rectangles of the screen. File names may be relative: they are then
 // looked for inside the container of the parent, the VMFile that the meta data belongs to.
-class ScreenMetaData : public virtual ThreadSafe, public XMLable {
+class ZML_EXPORT ScreenMetaData : public virtual ThreadSafe, public XMLable {
 public:
     static shared_ptr<ScreenMetaData> create(weak_ptr<ThreadSafe const> project,
                                              weak_ptr<FileRepresentation const> parent,

@@ -1,4 +1,4 @@
-#include <ZelmarMediaLib/clipbin/ScreenMetaDataImpl.h>
+#include <ZelmarMediaLib/clipbin/detail/ScreenMetaDataImpl.h>
 
 #include <ZelmarMediaLib/clipbin/ScreenMetaDataLoader.h>
 #include <ZelmarMediaLib/datatypes/PathUtil.h>

@@ -1,6 +1,7 @@
 #pragma once
 // What the application gives the library to turn a screen recording's side file into a value.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 
 #include <string>
 
@@ -12,7 +13,7 @@ class ThreadSafe;
 
 // The library opens no side file itself and ships no loader: the format of the files is a
 // matter between the application and its loader. The value is only stored and handed back.
-class ScreenMetaDataLoader {
+class ZML_EXPORT ScreenMetaDataLoader {
 public:
     virtual ~ScreenMetaDataLoader() = default;
     // path is absolute. name says which of the four values is wanted: "topmostWindowCoordinates",

@@ -50,11 +50,44 @@ std::string lastModification(std::string const& path) {
     return boost::posix_time::to_iso_string(time);
 }
 
-// Duration scaled by the rate: the measure of length that a replacement file must match.
-long long trackLength(MediaFileStats const& stats, unsigned int track) {
+// A 64-bit value times a 64-bit rate part, and the product of two rate parts, fit in 128 bits.
+__extension__ typedef __int128 Wide;
+__extension__ typedef unsigned __int128 WideUnsigned;
+
+// Duration scaled by the rate: the measure of length that a replacement file must match. In
+// 128 bits, since a nanosecond time base times any long duration exceeds 64.
+Wide trackLength(MediaFileStats const& stats, unsigned int track) {
     rational<unsigned long> const rate = stats.rangeEditRate(track);
-    return stats.trackRange(track).duration * static_cast<long long>(rate.numerator()) /
-           static_cast<long long>(rate.denominator());
+    return static_cast<Wide>(stats.trackRange(track).duration) * static_cast<Wide>(rate.numerator()) /
+           static_cast<Wide>(rate.denominator());
+}
+
+WideUnsigned greatestCommonDivisor(WideUnsigned a, WideUnsigned b) {
+    while (b != 0) {
+        WideUnsigned const rest = a % b;
+        a = b;
+        b = rest;
+    }
+    return a;
+}
+
+// Units beyond this either way are refused, so that Range arithmetic on two of them stays in 64 bits.
+long long const largestUnits = (1LL << 62) - 1;
+
+char const* const rangeTooLong = "attempting to convert a range too long for the project's edit rate";
+
+// value * multiplier / divisor, truncated toward zero, as exactly as in unbounded integers.
+long long scaled(long long value, WideUnsigned multiplier, WideUnsigned divisor) {
+    WideUnsigned const magnitude =
+        value < 0 ? WideUnsigned(0) - static_cast<WideUnsigned>(value) : static_cast<WideUnsigned>(value);
+    WideUnsigned product;
+    if (__builtin_mul_overflow(magnitude, multiplier, &product))
+        throw ZelmarMediaLibException(rangeTooLong);
+    WideUnsigned const quotient = product / divisor;
+    if (quotient > static_cast<WideUnsigned>(largestUnits))
+        throw ZelmarMediaLibException(rangeTooLong);
+    long long const result = static_cast<long long>(quotient);
+    return value < 0 ? -result : result;
 }
 
 }  // namespace
@@ -239,9 +272,18 @@ Range<long long> Source::convertEditRate(Range<long long> const& range, rational
                                          rational<unsigned long> const& projectRate) {
     if (fileRate.numerator() == 0)
         throw ZelmarMediaLibException("attempting to convert a range from an edit rate of zero");
-    long long const multiplier = static_cast<long long>(projectRate.numerator() * fileRate.denominator());
-    long long const divisor = static_cast<long long>(fileRate.numerator() * projectRate.denominator());
-    return Range<long long>(range.start * multiplier / divisor, range.duration * multiplier / divisor);
+    WideUnsigned multiplier = static_cast<WideUnsigned>(projectRate.numerator()) * fileRate.denominator();
+    WideUnsigned divisor = static_cast<WideUnsigned>(fileRate.numerator()) * projectRate.denominator();
+    // Reducing changes no quotient, and keeps the products of sane rates far from 128 bits.
+    WideUnsigned const common = greatestCommonDivisor(multiplier, divisor);
+    multiplier /= common;
+    divisor /= common;
+    Range<long long> const result(scaled(range.start, multiplier, divisor),
+                                  scaled(range.duration, multiplier, divisor));
+    // Both within 2^62 of zero, so the end can't overflow, only be too far.
+    if (result.start + result.duration > largestUnits || result.start + result.duration < -largestUnits)
+        throw ZelmarMediaLibException(rangeTooLong);
+    return result;
 }
 
 void Source::replacePath(std::string const& oldPath, std::string const& newPath, std::string* path) {

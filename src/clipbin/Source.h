@@ -1,6 +1,7 @@
 #pragma once
 // One loaded media file: its statistics, and a private timeline with one media for each of its tracks.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Range.h>
 #include <ZelmarMediaLib/datatypes/Rect.h>
 #include <ZelmarMediaLib/datatypes/SubProject.h>
@@ -24,7 +25,7 @@ class VisualMedia;
 
 // The project's medias are clones of the medias of a source's private timeline and keep a
 // reference to the source. Held only by shared_ptr, made through create.
-class Source : public SubProject, public XMLable, public Subject, public enable_shared_from_this<Source> {
+class ZML_EXPORT Source : public SubProject, public XMLable, public Subject, public enable_shared_from_this<Source> {
 public:
     // A place in the walk over the source's medias, numbered by track index from 0.
     class MediaIterator {
@@ -121,7 +122,9 @@ public:
     }
 
     // From a file's rate to the project's, multiplying first and dividing after, truncated
-    // toward zero. A file rate of zero raises rather than divide by zero.
+    // toward zero, exact for every 64-bit range and rate. A file rate of zero raises rather
+    // than divide by zero; so does a result with a start or end beyond 2^62 units either way,
+    // which leaves the sums and differences of ranges room in 64 bits.
     static Range<long long> convertEditRate(Range<long long> const& range, rational<unsigned long> const& fileRate,
                                             rational<unsigned long> const& projectRate);
     // Replaces the first occurrence of oldPath inside *path; an empty path stays empty.

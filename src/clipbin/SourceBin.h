@@ -2,6 +2,7 @@
 // The project's loaded sources: each file at most once, each new one past the application's sentries.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
 #include <ZelmarMediaLib/datatypes/ConstIterator.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/SubProject.h>
 #include <ZelmarMediaLib/datatypes/Subject.h>
 #include <ZelmarMediaLib/datatypes/XMLable.h>
@@ -17,7 +18,7 @@ class SourceBinSentry;
 
 // Reads take the project's read lock; changes take none, since they run on the command path
 // under the write lock.
-class SourceBin : public SubProject, public XMLable, public Subject {
+class ZML_EXPORT SourceBin : public SubProject, public XMLable, public Subject {
 public:
     typedef std::list<shared_ptr<Source> > SourceList;
     typedef std::list<shared_ptr<SourceBinSentry> > SentryList;

@@ -1,5 +1,6 @@
 #pragma once
 // A veto on the files that a project's source bin loads, implemented by the application.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/ZelmarObject.h>
 
 #include <string>
@@ -10,7 +11,7 @@ class MediaFileStats;
 
 // Asked about every new file, after its statistics are read and before its source enters the
 // bin; a file loaded already is not asked about again.
-class SourceBinSentry : public virtual ZelmarObject {
+class ZML_EXPORT SourceBinSentry : public virtual ZelmarObject {
 public:
     ~SourceBinSentry() override = default;
     // The sentry's name, printed when it refuses a file.

@@ -2,6 +2,7 @@
 // An undoable edit: applies itself through a CommandHandler and knows how to take itself back.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
 #include <ZelmarMediaLib/datatypes/Cloneable.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/XMLable.h>
 #include <ZelmarMediaLib/datatypes/ZelmarObject.h>
 
@@ -12,7 +13,7 @@ class CommandHandler;
 // Every concrete command is made by a static create() and lives in a shared_ptr, since
 // combine() needs shared_from_this(). Constructors only store their arguments; model
 // objects are named by shared_ptr<X const> handles that keep them alive on the stacks.
-class Command : public virtual ZelmarObject,
+class ZML_EXPORT Command : public virtual ZelmarObject,
                 public virtual Cloneable,
                 public XMLable,
                 public enable_shared_from_this<Command> {

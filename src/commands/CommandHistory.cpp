@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <iterator>
 #include <sstream>
 
 namespace ZelmarMediaLib {
@@ -60,10 +61,11 @@ bool CommandHistory::execute(shared_ptr<Command> command) {
 void CommandHistory::undo() {
     if (undoStack_->empty())
         throw ZelmarMediaLibException("no commands to undo");
-    // Off the stack before it runs: a command whose unexecute raises is on neither stack.
-    shared_ptr<Command> command = undoStack_->back();
-    undoStack_->pop_back();
+    // The command leaves its stack only once it has run: one that raises stays where it was,
+    // so the history keeps describing the model and the edit can still be undone.
+    shared_ptr<Command> const command = undoStack_->back();
     command->unexecute(handler_);
+    undoStack_->pop_back();
     redoStack_->push_back(command);
     notify();
 }
@@ -71,9 +73,9 @@ void CommandHistory::undo() {
 void CommandHistory::redo() {
     if (redoStack_->empty())
         throw ZelmarMediaLibException("no commands to redo");
-    shared_ptr<Command> command = redoStack_->back();
-    redoStack_->pop_back();
+    shared_ptr<Command> const command = redoStack_->back();
     command->reexecute(handler_);
+    redoStack_->pop_back();
     // The undo limit is not applied here, so a redo can take the stack over it.
     undoStack_->push_back(command);
     notify();
@@ -92,11 +94,13 @@ void CommandHistory::redoAll() {
 void CommandHistory::combineLastCommands() {
     if (undoStack_->size() < 2)
         return;
-    shared_ptr<Command> later = undoStack_->back();
+    // Combined before either leaves the stack, so that a combine that raises loses nothing.
+    shared_ptr<Command> const later = undoStack_->back();
+    shared_ptr<Command> const earlier = *std::prev(undoStack_->end(), 2);
+    shared_ptr<Command> const combined = earlier->combine(later);
     undoStack_->pop_back();
-    shared_ptr<Command> earlier = undoStack_->back();
     undoStack_->pop_back();
-    undoStack_->push_back(earlier->combine(later));
+    undoStack_->push_back(combined);
 }
 
 CommandHistoryState CommandHistory::state() const {
@@ -109,27 +113,46 @@ CommandHistoryState CommandHistory::state() const {
 
 void CommandHistory::restoreState(CommandHistoryState const& state) {
     // A state can only go back: commands executed since it was taken are thrown away.
-    if (!unrollStack(*undoStack_, state.undoTop) && !unrollStack(*redoStack_, state.undoTop)) {
+    CommandList* stack = nullptr;
+    if (holds(*undoStack_, state.undoTop))
+        stack = undoStack_.get();
+    else if (holds(*redoStack_, state.undoTop))
+        stack = redoStack_.get();
+    else {
         std::cerr << description() << std::endl;
         throw ValueException<CommandHistoryState>("State cannot be restored, cannot find undo top", state);
+    }
+    CommandList undone;
+    try {
+        unrollStack(*stack, state.undoTop, undone);
+    } catch (...) {
+        // What was undone stays undone, so each command goes where the model says it
+        // belongs: from the undo stack to the redo stack, as undo() would have put it; a
+        // command taken from the redo stack goes back there. The failing one stays put.
+        if (stack == undoStack_.get())
+            redoStack_->insert(redoStack_->end(), undone.begin(), undone.end());
+        else
+            redoStack_->insert(redoStack_->end(), undone.rbegin(), undone.rend());
+        if (!undone.empty())
+            notify();
+        throw;
     }
     *redoStack_ = state.redoStack;
     notify();
 }
 
-bool CommandHistory::unrollStack(CommandList& stack, shared_ptr<Command const> const& target) {
-    if (target) {
-        auto const found = std::find_if(stack.begin(), stack.end(),
-                                        [&](shared_ptr<Command> const& entry) { return entry == target; });
-        if (found == stack.end())
-            return false;
-    }
+bool CommandHistory::holds(CommandList const& stack, shared_ptr<Command const> const& target) {
+    return !target || std::find(stack.begin(), stack.end(), target) != stack.end();
+}
+
+void CommandHistory::unrollStack(CommandList& stack, shared_ptr<Command const> const& target,
+                                 CommandList& undone) {
     while (!stack.empty() && stack.back() != target) {
-        shared_ptr<Command> command = stack.back();
-        stack.pop_back();
+        shared_ptr<Command> const command = stack.back();
         command->unexecute(handler_);
+        stack.pop_back();
+        undone.push_back(command);
     }
-    return true;
 }
 
 int CommandHistory::undoLimit() const {

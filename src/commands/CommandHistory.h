@@ -3,6 +3,7 @@
 #include <ZelmarMediaLib/commands/CommandHistoryState.h>
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
 #include <ZelmarMediaLib/datatypes/Cloneable.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Subject.h>
 #include <ZelmarMediaLib/datatypes/XMLable.h>
 #include <ZelmarMediaLib/datatypes/ZelmarObject.h>
@@ -17,7 +18,7 @@ class CommandHandler;
 
 // No lock of its own: the project holds its lock around every call. A command is on at
 // most one stack; the top of each stack is the back of its list.
-class CommandHistory : public virtual ZelmarObject, public virtual Cloneable, public Subject, public XMLable {
+class ZML_EXPORT CommandHistory : public virtual ZelmarObject, public virtual Cloneable, public Subject, public XMLable {
 public:
     typedef std::list<shared_ptr<Command> > CommandList;
 
@@ -58,9 +59,11 @@ public:
 
 private:
     void applyUndoLimit();
-    // Pops and unexecutes from the top until the target is on top; a null target empties
-    // the stack. Fails, changing nothing, when the target isn't on the stack.
-    bool unrollStack(CommandList& stack, shared_ptr<Command const> const& target);
+    // A null target counts as held: unrolling to it empties the stack.
+    static bool holds(CommandList const& stack, shared_ptr<Command const> const& target);
+    // Unexecutes and pops from the top until the target is on top, each command leaving
+    // only once its unexecute returned; the popped ones are appended to undone, top first.
+    void unrollStack(CommandList& stack, shared_ptr<Command const> const& target, CommandList& undone);
 
     CommandHandler* handler_;
     std::unique_ptr<CommandList> undoStack_;

@@ -1,6 +1,7 @@
 #pragma once
 // A moment of a command history, to which the history can later be brought back.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 
 #include <list>
 
@@ -9,7 +10,7 @@ namespace ZelmarMediaLib {
 class Command;
 
 // A plain value: the commands themselves are shared, not copied.
-struct CommandHistoryState {
+struct ZML_EXPORT CommandHistoryState {
     // Null when the undo stack was empty.
     shared_ptr<Command const> undoTop;
     std::list<shared_ptr<Command> > redoStack;

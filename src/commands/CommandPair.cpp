@@ -16,21 +16,29 @@ CommandPair* CommandPair::clone() const {
     return new CommandPair(*this);
 }
 
-// Only the library's own failures are caught: anything else leaves the first half done.
+// A pair is one undo step, so it runs whole or not at all: whatever the second half throws,
+// the library's failures or any other, the first half is taken back before it passes on.
 bool CommandPair::execute(CommandHandler* handler) {
     first_->execute(handler);
     try {
         second_->execute(handler);
-    } catch (ZelmarMediaLibException const&) {
+    } catch (...) {
         first_->unexecute(handler);
         throw;
     }
     return true;
 }
 
+// Likewise backwards: a first half that fails to undo gets its second half redone, and the
+// model stands as before the call.
 bool CommandPair::unexecute(CommandHandler* handler) {
     second_->unexecute(handler);
-    first_->unexecute(handler);
+    try {
+        first_->unexecute(handler);
+    } catch (...) {
+        second_->reexecute(handler);
+        throw;
+    }
     return true;
 }
 
@@ -38,7 +46,7 @@ bool CommandPair::reexecute(CommandHandler* handler) {
     first_->reexecute(handler);
     try {
         second_->reexecute(handler);
-    } catch (ZelmarMediaLibException const&) {
+    } catch (...) {
         first_->unexecute(handler);
         throw;
     }

@@ -1,18 +1,19 @@
 #pragma once
 // Two commands merged into one undo step.
 #include <ZelmarMediaLib/commands/Command.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 
 namespace ZelmarMediaLib {
 
-class CommandPair : public Command {
+class ZML_EXPORT CommandPair : public Command {
 public:
     static shared_ptr<CommandPair> create(shared_ptr<Command> first, shared_ptr<Command> second);
 
     // A shallow copy that shares both halves, unlike every other command's clone.
     CommandPair* clone() const override;
-    // Runs both; if the second raises, the first is undone and the exception passes on.
+    // Runs both; if the second raises anything, the first is undone and the exception passes on.
     bool execute(CommandHandler* handler) override;
-    // The second is undone first.
+    // The second is undone first; if the first then raises, the second is redone.
     bool unexecute(CommandHandler* handler) override;
     bool reexecute(CommandHandler* handler) override;
 

@@ -1,18 +1,20 @@
 #pragma once
 // A command built of commands, which it runs, undoes and redoes through a private history.
 #include <ZelmarMediaLib/commands/Command.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 
 namespace ZelmarMediaLib {
 
 class CommandHistory;
 
-class MultiCommand : public Command {
+class ZML_EXPORT MultiCommand : public Command {
 public:
     ~MultiCommand() override;
 
     // Runs executeCommands; if any part raises, the parts that ran are undone in reverse
     // and the exception passes on.
     bool execute(CommandHandler* handler) override;
+    // Both roll back the parts that they got through when a later part raises.
     bool unexecute(CommandHandler* handler) override;
     bool reexecute(CommandHandler* handler) override;
 

@@ -1,10 +1,11 @@
 #pragma once
 // A command that does nothing, successfully.
 #include <ZelmarMediaLib/commands/Command.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 
 namespace ZelmarMediaLib {
 
-class NullCmd : public Command {
+class ZML_EXPORT NullCmd : public Command {
 public:
     static shared_ptr<NullCmd> create();
 

@@ -1,14 +1,16 @@
 #pragma once
 // The place of a sound: three floats, (0, 0, 1) by default.
+#include <ZelmarMediaLib/datatypes/Export.h>
+
 #include <iosfwd>
 
 namespace ZelmarMediaLib {
 
 // A plain value with no base class.
-class AudioPosition {
+class ZML_EXPORT AudioPosition {
 public:
     AudioPosition() : x(0.0f), y(0.0f), z(1.0f) {}
-    AudioPosition(float x, float y, float z) : x(x), y(y), z(z) {}
+    AudioPosition(float xValue, float yValue, float zValue) : x(xValue), y(yValue), z(zValue) {}
 
     // A NaN in any field makes positions unequal.
     bool operator==(AudioPosition const& other) const { return x == other.x && y == other.y && z == other.z; }
@@ -28,6 +30,6 @@ public:
 };
 
 // (x,y,z) in the stream's default number format.
-std::ostream& operator<<(std::ostream& out, AudioPosition const& position);
+ZML_EXPORT std::ostream& operator<<(std::ostream& out, AudioPosition const& position);
 
 }  // namespace ZelmarMediaLib

@@ -1,11 +1,12 @@
 #pragma once
 // Copying through a pointer, and the two-step copy of objects that live in shared_ptr.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 
 namespace ZelmarMediaLib {
 
 // Subclasses narrow the result type; the caller owns the copy.
-class Cloneable {
+class ZML_EXPORT Cloneable {
 public:
     virtual ~Cloneable() = default;
     virtual Cloneable* clone() const = 0;

@@ -1,5 +1,6 @@
 #pragma once
 // A colour as four channels, nominally 0 to 255; nothing clamps them, so sums may run past 255.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/ZelmarObject.h>
 
 #include <istream>
@@ -7,7 +8,7 @@
 
 namespace ZelmarMediaLib {
 
-class Color : public ZelmarObject {
+class ZML_EXPORT Color : public ZelmarObject {
 public:
     // All four channels 0, which is transparent black, not opaque black.
     Color() : red_(0), green_(0), blue_(0), alpha_(0) {}
@@ -41,9 +42,9 @@ private:
 };
 
 // Writes (red,green,blue,alpha).
-std::ostream& operator<<(std::ostream& out, Color const& color);
+ZML_EXPORT std::ostream& operator<<(std::ostream& out, Color const& color);
 // Reads back the written form: a bracket, then each number followed by one character.
 // The separators are taken as they come and are not checked.
-std::istream& operator>>(std::istream& in, Color& color);
+ZML_EXPORT std::istream& operator>>(std::istream& in, Color& color);
 
 }  // namespace ZelmarMediaLib

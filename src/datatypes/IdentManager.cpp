@@ -9,6 +9,7 @@ IdentManager* IdentManager::instance() {
 }
 
 unsigned int IdentManager::newIdent() {
+    std::lock_guard<std::mutex> lock(mutex_);
     // The most recently retired number first, which keeps the numbers small.
     if (!retiredIdents_.empty()) {
         unsigned int const ident = retiredIdents_.back();
@@ -19,6 +20,7 @@ unsigned int IdentManager::newIdent() {
 }
 
 void IdentManager::retireIdent(unsigned int ident) {
+    std::lock_guard<std::mutex> lock(mutex_);
     retiredIdents_.push_back(ident);
 }
 

@@ -1,14 +1,16 @@
 #pragma once
 // Hands out the small identity numbers that printed objects carry; retired numbers come back first.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/ZelmarObject.h>
 
+#include <mutex>
 #include <vector>
 
 namespace ZelmarMediaLib {
 
-// A process-wide singleton without a lock: objects with identity are made and destroyed
-// under the project's discipline.
-class IdentManager : public ZelmarObject {
+// A process-wide singleton with a lock of its own: objects with identity are made and
+// destroyed on any thread, by clones and copies under read locks among others.
+class ZML_EXPORT IdentManager : public ZelmarObject {
 public:
     static IdentManager* instance();
 
@@ -19,6 +21,7 @@ public:
 private:
     IdentManager() = default;
 
+    std::mutex mutex_;
     unsigned int nextIdent_ = 0;
     std::vector<unsigned int> retiredIdents_;
 };

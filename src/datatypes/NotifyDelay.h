@@ -1,5 +1,6 @@
 #pragma once
 // A scope during which notifications are held back; they go out, in order, when the outermost closes.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/ZelmarObject.h>
 
 namespace ZelmarMediaLib {
@@ -7,9 +8,10 @@ namespace ZelmarMediaLib {
 class Observable;
 class Observer;
 
-// Its state is global and unlocked: only the thread that holds the project's write lock
-// may open one or cause notifications.
-class NotifyDelay : public ZelmarObject {
+// Its state belongs to the calling thread and has no lock: a delay holds back only what its
+// own thread notifies, and is closed on that thread. Commands open theirs under the project's
+// write lock, so the model's notifications go out on the writer's thread, before it unlocks.
+class ZML_EXPORT NotifyDelay : public ZelmarObject {
 public:
     NotifyDelay();
     NotifyDelay(NotifyDelay const&);

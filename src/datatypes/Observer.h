@@ -1,16 +1,17 @@
 #pragma once
 // Change notification without a payload: an observer is only called, and looks for itself.
+#include <ZelmarMediaLib/datatypes/Export.h>
 
 namespace ZelmarMediaLib {
 
-class Observer {
+class ZML_EXPORT Observer {
 public:
     virtual ~Observer() = default;
     virtual void observerUpdate() = 0;
 };
 
 // Const, so that const views of the model can be watched.
-class Observable {
+class ZML_EXPORT Observable {
 public:
     virtual ~Observable() = default;
     virtual void attach(Observer* observer) const = 0;

@@ -1,5 +1,6 @@
 #pragma once
 // The observers of one subject, in the order they attached; the observers are not owned.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Observer.h>
 
 #include <cstddef>
@@ -7,7 +8,7 @@
 
 namespace ZelmarMediaLib {
 
-class ObserverList {
+class ZML_EXPORT ObserverList {
 public:
     // No test for doubles: an observer attached twice is called twice.
     void attach(Observer* observer);

@@ -11,7 +11,7 @@ template <class T>
 class Pair : public ZelmarObject {
 public:
     Pair() : first(), second() {}
-    Pair(T first, T second) : first(std::move(first)), second(std::move(second)) {}
+    Pair(T firstValue, T secondValue) : first(std::move(firstValue)), second(std::move(secondValue)) {}
 
     T first;
     T second;

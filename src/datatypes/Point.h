@@ -1,5 +1,6 @@
 #pragma once
 // A point or a vector in three dimensions; the library uses the one type for both.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/ZelmarObject.h>
 
 #include <istream>
@@ -8,10 +9,10 @@
 
 namespace ZelmarMediaLib {
 
-class Point : public ZelmarObject {
+class ZML_EXPORT Point : public ZelmarObject {
 public:
     Point() : x(0.0), y(0.0), z(0.0) {}
-    Point(double x, double y, double z) : x(x), y(y), z(z) {}
+    Point(double xValue, double yValue, double zValue) : x(xValue), y(yValue), z(zValue) {}
     // Reads three doubles: x, y, z.
     explicit Point(double const* xyz) : x(xyz[0]), y(xyz[1]), z(xyz[2]) {}
 
@@ -32,9 +33,9 @@ public:
 };
 
 // Writes (x,y,z).
-std::ostream& operator<<(std::ostream& out, Point const& point);
+ZML_EXPORT std::ostream& operator<<(std::ostream& out, Point const& point);
 // Reads back the written form: a bracket, then each number followed by one character.
 // The separators are taken as they come and are not checked.
-std::istream& operator>>(std::istream& in, Point& point);
+ZML_EXPORT std::istream& operator>>(std::istream& in, Point& point);
 
 }  // namespace ZelmarMediaLib

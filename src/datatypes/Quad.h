@@ -1,5 +1,6 @@
 #pragma once
 // Four points in order along an outline: a rectangle after a transform, as the hit tester sees it.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Point.h>
 #include <ZelmarMediaLib/datatypes/Rect.h>
 #include <ZelmarMediaLib/datatypes/ZelmarObject.h>
@@ -9,7 +10,7 @@
 
 namespace ZelmarMediaLib {
 
-class Quad : public ZelmarObject {
+class ZML_EXPORT Quad : public ZelmarObject {
 public:
     Quad();
     Quad(Point const& p0, Point const& p1, Point const& p2, Point const& p3);
@@ -37,6 +38,6 @@ private:
 };
 
 // Writes the four points in their own form, separated by one blank.
-std::ostream& operator<<(std::ostream& out, Quad const& quad);
+ZML_EXPORT std::ostream& operator<<(std::ostream& out, Quad const& quad);
 
 }  // namespace ZelmarMediaLib

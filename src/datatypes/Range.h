@@ -10,7 +10,7 @@ template <class T>
 class Range : public ZelmarObject {
 public:
     Range() : start(), duration() {}
-    Range(T start, T duration) : start(start), duration(duration) {}
+    Range(T startValue, T durationValue) : start(startValue), duration(durationValue) {}
 
     T end() const { return start + duration; }
 

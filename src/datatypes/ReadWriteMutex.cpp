@@ -2,85 +2,68 @@
 
 #include <ZelmarMediaLib/exceptions/ThreadLockingException.h>
 
-#include <boost/thread/exceptions.hpp>
-#include <boost/thread/thread.hpp>
-
-#include <cerrno>
-#include <map>
-
-#include <pthread.h>
-#include <semaphore.h>
+#include <algorithm>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+#include <utility>
+#include <vector>
 
 namespace ZelmarMediaLib {
 
-namespace {
-
-// mainMutex is released by whichever reader leaves last, which need not be the thread
-// that took it; a pthread mutex forbids that, a semaphore of one permit does not.
-class BinarySemaphore {
-public:
-    BinarySemaphore() {
-        if (sem_init(&semaphore_, 0, 1) != 0)
-            throw boost::thread_resource_error(errno, "ReadWriteMutex: sem_init failed");
-    }
-    ~BinarySemaphore() { sem_destroy(&semaphore_); }
-    BinarySemaphore(BinarySemaphore const&) = delete;
-    BinarySemaphore& operator=(BinarySemaphore const&) = delete;
-
-    void lock() {
-        while (sem_wait(&semaphore_) != 0) {
-            // Only a signal interrupts the wait; take it up again.
-        }
-    }
-    void unlock() { sem_post(&semaphore_); }
-
-private:
-    sem_t semaphore_;
-};
-
-class StateMutex {
-public:
-    StateMutex() {
-        int const error = pthread_mutex_init(&mutex_, nullptr);
-        if (error != 0)
-            throw boost::thread_resource_error(error, "ReadWriteMutex: pthread_mutex_init failed");
-    }
-    ~StateMutex() { pthread_mutex_destroy(&mutex_); }
-    StateMutex(StateMutex const&) = delete;
-    StateMutex& operator=(StateMutex const&) = delete;
-
-    void lock() { pthread_mutex_lock(&mutex_); }
-    void unlock() { pthread_mutex_unlock(&mutex_); }
-
-private:
-    pthread_mutex_t mutex_;
-};
-
-class StateSection {
-public:
-    explicit StateSection(StateMutex& mutex) : mutex_(mutex) { mutex_.lock(); }
-    ~StateSection() { mutex_.unlock(); }
-    StateSection(StateSection const&) = delete;
-    StateSection& operator=(StateSection const&) = delete;
-
-private:
-    StateMutex& mutex_;
-};
-
-}  // namespace
-
 class ReadWriteMutexImpl {
 public:
-    // Held by the writer, or by the reader group as a whole.
-    BinarySemaphore mainMutex;
-    // Empty (default-constructed) when there is no writer.
-    boost::thread::id writer;
+    typedef std::vector<std::pair<std::thread::id, int> > ReaderTable;
+
+    ReadWriteMutexImpl() { readers.reserve(8); }
+
+    // Held only for a few instructions; nobody waits for the lock while holding it except
+    // inside a condition wait, which gives it up.
+    std::mutex state;
+    std::condition_variable readersMayEnter;
+    std::condition_variable writerMayEnter;
+
+    // Default-constructed (no thread) when there is no writer.
+    std::thread::id writer;
     int writerCount = 0;
-    std::map<boost::thread::id, int> readers;
-    // Guards every other field, held only for a few instructions and never while
-    // mainMutex is waited for.
-    mutable StateMutex stateMutex;
+    // Read locks that the writer took inside its own write; they are not readers.
+    int writerReads = 0;
+    int waitingWriters = 0;
+
+    // A few threads read at a time, so a short table scanned in place beats a map, and once
+    // its capacity has grown an uncontended read allocates nothing.
+    ReaderTable readers;
+    // Sum of the depths in readers.
     int readerCount = 0;
+
+    ReaderTable::iterator readerEntry(std::thread::id thread) {
+        return std::find_if(readers.begin(), readers.end(),
+                            [thread](std::pair<std::thread::id, int> const& entry) { return entry.first == thread; });
+    }
+
+    void enterReader(std::thread::id thread, int depth) {
+        ReaderTable::iterator const entry = readerEntry(thread);
+        if (entry == readers.end())
+            readers.emplace_back(thread, depth);
+        else
+            entry->second += depth;
+        readerCount += depth;
+    }
+
+    // A thread with no read lock left is taken out of the table, so that a later write
+    // lock of that thread is not refused.
+    void leaveReader(std::thread::id thread) {
+        ReaderTable::iterator const entry = readerEntry(thread);
+        if (entry == readers.end())
+            return;
+        --readerCount;
+        if (--entry->second == 0) {
+            *entry = readers.back();
+            readers.pop_back();
+        }
+        if (readerCount == 0 && waitingWriters > 0)
+            writerMayEnter.notify_one();
+    }
 };
 
 ReadWriteMutex::ReadWriteMutex() : impl_(new ReadWriteMutexImpl) {}
@@ -88,88 +71,104 @@ ReadWriteMutex::ReadWriteMutex() : impl_(new ReadWriteMutexImpl) {}
 ReadWriteMutex::~ReadWriteMutex() = default;
 
 void ReadWriteMutex::acquireReadLock() {
-    boost::thread::id const caller = boost::this_thread::get_id();
-    bool firstReader = false;
-    {
-        StateSection section(impl_->stateMutex);
-        if (impl_->writer == caller)
-            return;  // a writer reads freely, and is not counted
-        firstReader = (++impl_->readerCount == 1);
+    std::thread::id const caller = std::this_thread::get_id();
+    std::unique_lock<std::mutex> lock(impl_->state);
+    if (impl_->writer == caller) {
+        ++impl_->writerReads;
+        return;
     }
-    // Only the first reader waits for a writer; the others are let through at once,
-    // even while a writer works, because the count is already above 0.
-    if (firstReader)
-        impl_->mainMutex.lock();
+    // A thread that already reads goes on at once: a waiting writer waits for it, so making
+    // it wait for that writer would deadlock both. New readers give way to a waiting writer.
+    if (impl_->readerEntry(caller) == impl_->readers.end()) {
+        impl_->readersMayEnter.wait(lock, [this] {
+            return impl_->writer == std::thread::id() && impl_->waitingWriters == 0;
+        });
+    }
+    impl_->enterReader(caller, 1);
 }
 
 void ReadWriteMutex::releaseReadLock() {
-    StateSection section(impl_->stateMutex);
-    // While anyone writes, a release changes nothing: it is taken to be the writer's own
-    // uncounted read lock.
-    if (impl_->writerCount != 0)
+    std::thread::id const caller = std::this_thread::get_id();
+    std::lock_guard<std::mutex> lock(impl_->state);
+    if (impl_->writer == caller) {
+        if (impl_->writerReads > 0)
+            --impl_->writerReads;
         return;
-    if (--impl_->readerCount == 0)
-        impl_->mainMutex.unlock();
+    }
+    impl_->leaveReader(caller);
 }
 
 void ReadWriteMutex::acquireWriteLock() {
-    boost::thread::id const caller = boost::this_thread::get_id();
-    {
-        StateSection section(impl_->stateMutex);
-        if (impl_->writer == caller) {
-            ++impl_->writerCount;
-            return;
-        }
+    std::thread::id const caller = std::this_thread::get_id();
+    std::unique_lock<std::mutex> lock(impl_->state);
+    if (impl_->writer == caller) {
+        ++impl_->writerCount;
+        return;
     }
-    impl_->mainMutex.lock();
-    StateSection section(impl_->stateMutex);
+    // The writer would wait for its own read lock to go, which never happens.
+    if (impl_->readerEntry(caller) != impl_->readers.end())
+        throw ThreadLockingException("trying to aquire a write lock while reading");
+    ++impl_->waitingWriters;
+    impl_->writerMayEnter.wait(lock, [this] {
+        return impl_->writer == std::thread::id() && impl_->readerCount == 0;
+    });
+    --impl_->waitingWriters;
     impl_->writer = caller;
     impl_->writerCount = 1;
 }
 
 void ReadWriteMutex::releaseWriteLock() {
-    boost::thread::id const caller = boost::this_thread::get_id();
-    StateSection section(impl_->stateMutex);
+    std::thread::id const caller = std::this_thread::get_id();
+    std::lock_guard<std::mutex> lock(impl_->state);
     if (impl_->writer != caller)
         return;
-    if (--impl_->writerCount < 1) {
-        impl_->mainMutex.unlock();
-        impl_->writer = boost::thread::id();
+    if (--impl_->writerCount > 0)
+        return;
+    impl_->writer = std::thread::id();
+    // The reads still open inside the write outlive it: they become the thread's own read
+    // locks, without a moment in which another writer could slip in.
+    if (impl_->writerReads > 0) {
+        impl_->enterReader(caller, impl_->writerReads);
+        impl_->writerReads = 0;
+    }
+    if (impl_->waitingWriters > 0) {
+        if (impl_->readerCount == 0)
+            impl_->writerMayEnter.notify_one();
+    } else {
+        impl_->readersMayEnter.notify_all();
     }
 }
 
 int ReadWriteMutex::readerCount() const {
-    StateSection section(impl_->stateMutex);
+    std::lock_guard<std::mutex> lock(impl_->state);
     return impl_->readerCount;
 }
 
 int ReadWriteMutex::writerCount() const {
-    StateSection section(impl_->stateMutex);
+    std::lock_guard<std::mutex> lock(impl_->state);
     return impl_->writerCount;
 }
 
 bool ReadWriteMutex::hasWriter() const {
-    StateSection section(impl_->stateMutex);
-    return impl_->writer != boost::thread::id();
+    std::lock_guard<std::mutex> lock(impl_->state);
+    return impl_->writer != std::thread::id();
 }
 
 void ReadWriteMutex::addThreadToReaders() {
-    StateSection section(impl_->stateMutex);
-    impl_->readers[boost::this_thread::get_id()] = 1;
+    std::lock_guard<std::mutex> lock(impl_->state);
+    impl_->enterReader(std::this_thread::get_id(), 1);
 }
 
 void ReadWriteMutex::removeThreadFromReaders() {
-    StateSection section(impl_->stateMutex);
-    impl_->readers.erase(boost::this_thread::get_id());
+    std::lock_guard<std::mutex> lock(impl_->state);
+    impl_->leaveReader(std::this_thread::get_id());
 }
 
 void ReadWriteMutex::assertNoReadLockFromThisThread() const {
-    boost::thread::id const caller = boost::this_thread::get_id();
-    StateSection section(impl_->stateMutex);
-    for (auto const& entry : impl_->readers) {
-        if (entry.first == caller)
-            throw ThreadLockingException("trying to aquire a write lock while reading");
-    }
+    std::thread::id const caller = std::this_thread::get_id();
+    std::lock_guard<std::mutex> lock(impl_->state);
+    if (impl_->readerEntry(caller) != impl_->readers.end())
+        throw ThreadLockingException("trying to aquire a write lock while reading");
 }
 
 ReadWriteMutex::ScopedReadLock::ScopedReadLock(ReadWriteMutex* mutex) : mutex_(mutex) {

@@ -1,14 +1,23 @@
 #pragma once
 // The project-wide lock: writers nest, a writer reads freely, readers share, a read lock is not upgraded.
+#include <ZelmarMediaLib/datatypes/Export.h>
+
 #include <memory>
 
 namespace ZelmarMediaLib {
 
 class ReadWriteMutexImpl;
 
-class ReadWriteMutex {
+// What it promises: write locks nest on one thread, and the writer takes read locks freely
+// at any depth without being counted as a reader. Read locks on different threads run side
+// by side and nest on one thread; a thread that already reads never waits for a further read
+// lock, even with a writer waiting, since that writer waits for it. A write lock excludes
+// every other thread. A waiting writer holds back new readers, so a stream of readers cannot
+// starve it. A thread that reads and asks for a write lock is refused with
+// ThreadLockingException: two such threads would wait for each other for ever.
+// Every lock is released on the thread that took it.
+class ZML_EXPORT ReadWriteMutex {
 public:
-    // Raises boost::thread_resource_error when the system refuses a primitive.
     ReadWriteMutex();
     ~ReadWriteMutex();
     ReadWriteMutex(ReadWriteMutex const&) = delete;
@@ -16,7 +25,9 @@ public:
 
     void acquireReadLock();
     void releaseReadLock();
+    // Raises ThreadLockingException, and changes nothing, when the calling thread reads.
     void acquireWriteLock();
+    // Read locks taken inside the write and still held become the thread's own read locks.
     void releaseWriteLock();
 
     class ScopedReadLock {
@@ -43,16 +54,19 @@ public:
         ReadWriteMutex* mutex_;
     };
 
-    // Counters for tests and diagnostics; each is read under the state lock.
+    // Counters for tests and diagnostics; each is read under the state lock. readerCount
+    // counts the read locks held outside a write, nested ones included.
     int readerCount() const;
     int writerCount() const;
     bool hasWriter() const;
 
-    // A check against upgrading a read lock. Nothing in the library connects these to the
-    // four lock operations: the reader table stays empty unless a caller fills it.
+    // The reader table holds each reading thread's depth; acquireReadLock and releaseReadLock
+    // keep it through these. Called by hand, they count one read lock of the calling thread in
+    // or out without waiting for a writer.
     void addThreadToReaders();
     void removeThreadFromReaders();
-    // Raises ThreadLockingException when the calling thread is entered as a reader.
+    // Raises ThreadLockingException when the calling thread holds a read lock outside a write;
+    // acquireWriteLock checks this before it waits.
     void assertNoReadLockFromThisThread() const;
 
 private:

@@ -10,7 +10,8 @@ template <class T>
 class Rect : public ZelmarObject {
 public:
     Rect() : x(), y(), width(), height() {}
-    Rect(T x, T y, T width, T height) : x(x), y(y), width(width), height(height) {}
+    Rect(T xValue, T yValue, T widthValue, T heightValue)
+        : x(xValue), y(yValue), width(widthValue), height(heightValue) {}
 
     T x;
     T y;

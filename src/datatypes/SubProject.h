@@ -1,12 +1,13 @@
 #pragma once
 // The base of everything that belongs to a project: reaches the project's lock through a weak reference.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/ThreadSafe.h>
 #include <ZelmarMediaLib/datatypes/ZelmarObject.h>
 
 namespace ZelmarMediaLib {
 
-class SubProject : public virtual ZelmarObject, public virtual ThreadSafe {
+class ZML_EXPORT SubProject : public virtual ZelmarObject, public virtual ThreadSafe {
 public:
     explicit SubProject(weak_ptr<ThreadSafe const> project);
 

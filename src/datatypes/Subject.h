@@ -1,5 +1,6 @@
 #pragma once
 // An observable model object whose notifications can be disabled, or held back by a NotifyDelay.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Observer.h>
 
 #include <memory>
@@ -8,7 +9,7 @@ namespace ZelmarMediaLib {
 
 class ObserverList;
 
-class Subject : public Observable {
+class ZML_EXPORT Subject : public Observable {
 public:
     Subject();
     // Observers stay with the object they watch: a copy starts with none.

@@ -1,5 +1,6 @@
 #pragma once
 // A 4 by 4 homogeneous transform, row-major, applied to column vectors on its right; angles in radians.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Point.h>
 #include <ZelmarMediaLib/datatypes/Quad.h>
 #include <ZelmarMediaLib/datatypes/ZelmarObject.h>
@@ -10,7 +11,7 @@
 
 namespace ZelmarMediaLib {
 
-class TransformMatrix : public ZelmarObject {
+class ZML_EXPORT TransformMatrix : public ZelmarObject {
 public:
     // The identity.
     TransformMatrix();
@@ -98,6 +99,6 @@ private:
 };
 
 // Writes {{m00,m01,m02,m03},{m10,...},{...},{...}}, the form of keyframe values.
-std::ostream& operator<<(std::ostream& out, TransformMatrix const& matrix);
+ZML_EXPORT std::ostream& operator<<(std::ostream& out, TransformMatrix const& matrix);
 
 }  // namespace ZelmarMediaLib

@@ -2,9 +2,22 @@
 
 #include <ZelmarMediaLib/datatypes/Observer.h>
 
+#include <cassert>
+#include <memory>
+#include <set>
+
 namespace ZelmarMediaLib {
 
-UpdateCollector::UpdateCollector() : record_(new Record) {}
+namespace {
+
+typedef std::set<shared_ptr<Observable const> > CollectedSet;
+
+// Per thread, as plain values so that nothing needs a destructor at thread exit. The set is
+// made by the first object collected and freed when the collection stops.
+thread_local bool collecting = false;
+thread_local CollectedSet* collected = nullptr;
+
+}  // namespace
 
 UpdateCollector* UpdateCollector::instance() {
     // Never deleted: objects may still notify while static destructors run.
@@ -13,25 +26,31 @@ UpdateCollector* UpdateCollector::instance() {
 }
 
 void UpdateCollector::startCollecting() {
-    record_->collecting = true;
+    collecting = true;
 }
 
 void UpdateCollector::stopCollecting() {
-    record_->collecting = false;
+    collecting = false;
+    if (!collected)
+        return;
     // Collecting is off by now, so each notify takes the ordinary path, which may in
     // turn be held by a NotifyDelay.
-    std::set<shared_ptr<Observable const> > collected;
-    collected.swap(record_->observables);
-    for (shared_ptr<Observable const> const& observable : collected)
+    std::unique_ptr<CollectedSet> const taken(collected);
+    collected = nullptr;
+    for (shared_ptr<Observable const> const& observable : *taken)
         observable->notify();
 }
 
 bool UpdateCollector::isCollecting() const {
-    return record_->collecting;
+    return collecting;
 }
 
 void UpdateCollector::addObservable(shared_ptr<Observable const> const& observable) {
-    record_->observables.insert(observable);
+    // Only objects that notify while this thread collects come here.
+    assert(collecting);
+    if (!collected)
+        collected = new CollectedSet;
+    collected->insert(observable);
 }
 
 UpdateCollector::Collection::Collection() {

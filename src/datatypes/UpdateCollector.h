@@ -1,17 +1,17 @@
 #pragma once
 // Gathers the medias, tracks and mixers that change during an edit, so that each notifies once.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/ZelmarObject.h>
-
-#include <memory>
-#include <set>
 
 namespace ZelmarMediaLib {
 
 class Observable;
 
-// A process-wide singleton without a lock: used only under the project's write lock.
-class UpdateCollector : public ZelmarObject {
+// A process-wide singleton whose collection belongs to the calling thread, without a lock:
+// edits under the write lock collect on the writer's thread, and a reader thread that edits
+// clones of its own neither joins nor disturbs that collection.
+class ZML_EXPORT UpdateCollector : public ZelmarObject {
 public:
     static UpdateCollector* instance();
 
@@ -33,13 +33,7 @@ public:
     };
 
 private:
-    UpdateCollector();
-
-    struct Record {
-        std::set<shared_ptr<Observable const> > observables;
-        bool collecting = false;
-    };
-    std::unique_ptr<Record> record_;
+    UpdateCollector() = default;
 };
 
 }  // namespace ZelmarMediaLib

@@ -1,5 +1,6 @@
 #pragma once
 // Vector arithmetic and the 2-D tests of quads and segments on which hit testing rests.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Point.h>
 #include <ZelmarMediaLib/datatypes/Quad.h>
 
@@ -10,30 +11,30 @@ namespace ZelmarMediaLib {
 namespace VectorUtil {
 
 // The vector from a to b.
-Point createVector(Point const& a, Point const& b);
-double length(Point const& v);
-void normalize(Point& v);
-Point midPoint(Point const& a, Point const& b);
-double dotProduct(Point const& a, Point const& b);
-Point crossProduct(Point const& a, Point const& b);
+ZML_EXPORT Point createVector(Point const& a, Point const& b);
+ZML_EXPORT double length(Point const& v);
+ZML_EXPORT void normalize(Point& v);
+ZML_EXPORT Point midPoint(Point const& a, Point const& b);
+ZML_EXPORT double dotProduct(Point const& a, Point const& b);
+ZML_EXPORT Point crossProduct(Point const& a, Point const& b);
 // The unit normal of the plane spanned by a and b, in the direction of their cross product.
-Point computeNormal(Point const& a, Point const& b);
-Point computeNormal(Quad const& quad);
+ZML_EXPORT Point computeNormal(Point const& a, Point const& b);
+ZML_EXPORT Point computeNormal(Quad const& quad);
 
 // The 2-D tests below ignore z and rest on a strict turn test: touching or collinear
 // segments give whatever that test gives, with no special case.
-bool linesIntersect2D(Point const& a, Point const& b, Point const& c, Point const& d);
+ZML_EXPORT bool linesIntersect2D(Point const& a, Point const& b, Point const& c, Point const& d);
 // True at the first side of the quad that the segment from a to b crosses.
-bool lineIntersectsQuad2D(Point const& a, Point const& b, Quad const& quad);
+ZML_EXPORT bool lineIntersectsQuad2D(Point const& a, Point const& b, Quad const& quad);
 // Needs a convex quad, of either winding. A point on an edge is outside, except on the first
 // edge of a quad whose other edges all turn the other way.
-bool quadContainsPoint(Quad const& quad, Point const& point);
+ZML_EXPORT bool quadContainsPoint(Quad const& quad, Point const& point);
 // True as soon as any one corner of inner lies in outer, not only when all do.
-bool quadInsideOfQuad(Quad const& inner, Quad const& outer);
+ZML_EXPORT bool quadInsideOfQuad(Quad const& inner, Quad const& outer);
 // Crossing sides first, then the corners of each quad in the other.
-bool quadsIntersect2D(Quad const& q, Quad const& r);
+ZML_EXPORT bool quadsIntersect2D(Quad const& q, Quad const& r);
 // The point where the ray meets the plane of the quad; it may lie behind the origin.
-Point intersectionOfRayWithPlane(Point const& origin, Point const& direction, Quad const& quad);
+ZML_EXPORT Point intersectionOfRayWithPlane(Point const& origin, Point const& direction, Quad const& quad);
 
 }  // namespace VectorUtil
 

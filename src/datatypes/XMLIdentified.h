@@ -1,8 +1,9 @@
 #pragma once
 // The identity number by which a printed object is referred to inside one document.
+#include <ZelmarMediaLib/datatypes/Export.h>
 namespace ZelmarMediaLib {
 
-class XMLIdentified {
+class ZML_EXPORT XMLIdentified {
 public:
     XMLIdentified();
     // A copy draws a number of its own; it never shares its origin's.

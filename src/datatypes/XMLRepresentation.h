@@ -1,6 +1,7 @@
 #pragma once
 // How values become attribute text: numbers in the stream's default format, strings escaped.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/XMLable.h>
 
 #include <sstream>
@@ -18,17 +19,17 @@ std::string xml_representation(T const& value) {
 }
 
 // Floats go out as doubles.
-std::string xml_representation(float value);
+ZML_EXPORT std::string xml_representation(float value);
 // An edit rate: numerator/denominator.
-std::string xml_representation(rational<unsigned long> const& rate);
+ZML_EXPORT std::string xml_representation(rational<unsigned long> const& rate);
 
 // Escaped through the text codec: & " ' < > line feed and carriage return, in that order.
-std::string xml_representation(std::string& text);
-std::string xml_representation(std::string const& text);
-std::string xml_representation(char const* text);
+ZML_EXPORT std::string xml_representation(std::string& text);
+ZML_EXPORT std::string xml_representation(std::string const& text);
+ZML_EXPORT std::string xml_representation(char const* text);
 
 // The path made relative to options.baseDirectory when that is set and the path is
 // absolute; otherwise the path as it stands. Not escaped: that is the caller's next step.
-std::string convertToRelativeIfNecessary(XMLable::Options const& options, std::string const& path);
+ZML_EXPORT std::string convertToRelativeIfNecessary(XMLable::Options const& options, std::string const& path);
 
 }  // namespace ZelmarMediaLib

@@ -1,5 +1,6 @@
 #pragma once
 // An object that prints itself as one XML element: name, attributes and body, laid out to the byte.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/XMLIdentified.h>
 
 #include <iosfwd>
@@ -8,12 +9,12 @@
 namespace ZelmarMediaLib {
 
 // XMLIdentified is a virtual base so that an object reaching it along several paths has one number.
-class XMLable : public virtual XMLIdentified {
+class ZML_EXPORT XMLable : public virtual XMLIdentified {
 public:
     // Passed by reference through the whole writing; every writer prints straight to the stream.
     struct Options {
-        Options(std::ostream* stream = nullptr, std::string const& baseDirectory = std::string())
-            : stream(stream), baseDirectory(baseDirectory) {}
+        Options(std::ostream* streamTo = nullptr, std::string const& baseDirectoryOfPaths = std::string())
+            : stream(streamTo), baseDirectory(baseDirectoryOfPaths) {}
 
         std::ostream* stream;
         // Empty: paths are written as they stand; otherwise absolute paths are made relative to it.

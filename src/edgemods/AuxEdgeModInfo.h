@@ -1,13 +1,14 @@
 #pragma once
 // What an edge modification function needs to know of the stage: the media and its visual mixer.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 
 namespace ZelmarMediaLib {
 
 class VisualMedia;
 class VisualMixer;
 
-class AuxEdgeModInfo {
+class ZML_EXPORT AuxEdgeModInfo {
 public:
     AuxEdgeModInfo() = default;
     AuxEdgeModInfo(AuxEdgeModInfo const&) = default;

@@ -1,5 +1,6 @@
 #pragma once
 // A function applied to a double parameter's value across an edge zone of a media.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/XMLable.h>
 
 #include <string>
@@ -8,7 +9,7 @@ namespace ZelmarMediaLib {
 
 class AuxEdgeModInfo;
 
-class EdgeModFunc : public XMLable {
+class ZML_EXPORT EdgeModFunc : public XMLable {
 public:
     // Owned by the caller.
     virtual EdgeModFunc* clone() const = 0;

@@ -1,13 +1,14 @@
 #pragma once
 // An object with two edge zones, each a length and a list of modifications.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/edgemods/EdgeModification.h>
 
 #include <list>
 
 namespace ZelmarMediaLib {
 
-class EdgeModifiable {
+class ZML_EXPORT EdgeModifiable {
 public:
     virtual ~EdgeModifiable() = default;
 

@@ -1,6 +1,7 @@
 #pragma once
 // One edge modification: a function applied to one double parameter of a media.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 
 #include <memory>
 
@@ -11,7 +12,7 @@ template <class T>
 class Parameter;
 
 // A value: copies clone the function.
-class EdgeModification {
+class ZML_EXPORT EdgeModification {
 public:
     EdgeModification(shared_ptr<Parameter<double> const> parameter, EdgeModFunc const& func);
     EdgeModification(EdgeModification const& other);

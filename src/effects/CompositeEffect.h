@@ -1,12 +1,13 @@
 #pragma once
 // An effect that is written to XML by its name alone; the concrete kinds supply parameters and times.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/effects/Effect.h>
 
 #include <string>
 
 namespace ZelmarMediaLib {
 
-class CompositeEffect : public Effect {
+class ZML_EXPORT CompositeEffect : public Effect {
 public:
     CompositeEffect(std::string const& name, weak_ptr<ThreadSafe const> project);
 

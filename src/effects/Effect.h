@@ -2,6 +2,7 @@
 // A named, keyframed modification that a media, a track or a mixer applies to what it shows.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
 #include <ZelmarMediaLib/datatypes/Cloneable.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/SubProject.h>
 #include <ZelmarMediaLib/datatypes/Subject.h>
 #include <ZelmarMediaLib/datatypes/XMLable.h>
@@ -17,7 +18,7 @@ class EffectTimeConverter;
 class ParameterInterface;
 
 // The library stores effects and hands them to the application; it never renders them.
-class Effect : public SubProject, public virtual Cloneable, public XMLable, public Parametric, public Subject {
+class ZML_EXPORT Effect : public SubProject, public virtual Cloneable, public XMLable, public Parametric, public Subject {
 public:
     explicit Effect(weak_ptr<ThreadSafe const> project);
     Effect(std::string const& name, weak_ptr<ThreadSafe const> project);

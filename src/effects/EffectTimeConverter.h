@@ -1,9 +1,10 @@
 #pragma once
 // How the owner of an effect maps timeline time to the time in which the effect's keyframes are kept.
+#include <ZelmarMediaLib/datatypes/Export.h>
 
 namespace ZelmarMediaLib {
 
-class EffectTimeConverter {
+class ZML_EXPORT EffectTimeConverter {
 public:
     virtual long long globalTimeToEffectTime(long long time) const = 0;
 

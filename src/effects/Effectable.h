@@ -1,20 +1,21 @@
 #pragma once
 // An ordered chain of effects, and the record that a removal from it gives back.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 
 namespace ZelmarMediaLib {
 
 class Effect;
 
 // Kept by the remove command for its undo.
-struct EffectRemoval {
+struct ZML_EXPORT EffectRemoval {
     shared_ptr<Effect> effect;
     int index = 0;
 };
 
 // Index 0 is the first effect of the chain. An index out of range raises IndexException and
 // changes nothing.
-class Effectable {
+class ZML_EXPORT Effectable {
 public:
     virtual ~Effectable() = default;
 

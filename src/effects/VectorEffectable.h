@@ -2,6 +2,7 @@
 // The effect chain that medias, tracks and mixers own: a vector of effects, the first applied first.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
 #include <ZelmarMediaLib/datatypes/Cloneable.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/ZelmarObject.h>
 #include <ZelmarMediaLib/effects/Effectable.h>
 
@@ -11,7 +12,7 @@ namespace ZelmarMediaLib {
 
 // Has no lock: every edit runs under the project's write lock taken by the command, and the
 // owner reads under its own read lock.
-class VectorEffectable : public virtual ZelmarObject, public Effectable, public virtual Cloneable {
+class ZML_EXPORT VectorEffectable : public virtual ZelmarObject, public Effectable, public virtual Cloneable {
 public:
     VectorEffectable();
     // Every effect is cloned, so that two chains never share one. The clones have no time

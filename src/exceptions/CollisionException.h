@@ -1,6 +1,7 @@
 #pragma once
 // An edit refused because medias lie in the way; it names every one of them.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
 
 #include <list>
@@ -9,7 +10,7 @@ namespace ZelmarMediaLib {
 
 class Media;
 
-class CollisionException : public ZelmarMediaLibException {
+class ZML_EXPORT CollisionException : public ZelmarMediaLibException {
 public:
     typedef std::list<shared_ptr<Media const> > MediaList;
 

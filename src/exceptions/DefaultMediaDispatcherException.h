@@ -1,10 +1,11 @@
 #pragma once
 // A media kind that a dispatcher does not handle.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
 
 namespace ZelmarMediaLib {
 
-class DefaultMediaDispatcherException : public ZelmarMediaLibException {
+class ZML_EXPORT DefaultMediaDispatcherException : public ZelmarMediaLibException {
 public:
     explicit DefaultMediaDispatcherException(std::string const& message);
 };

@@ -1,10 +1,11 @@
 #pragma once
 // A refused keyframe operation, with the time it concerned.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
 
 namespace ZelmarMediaLib {
 
-class KeyFrameException : public ZelmarMediaLibException {
+class ZML_EXPORT KeyFrameException : public ZelmarMediaLibException {
 public:
     explicit KeyFrameException(long long time);
 

@@ -1,11 +1,12 @@
 #pragma once
 // Two linked medias whose track ranges should be equal and are not; its text is empty.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Range.h>
 #include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
 
 namespace ZelmarMediaLib {
 
-class LinkException : public ZelmarMediaLibException {
+class ZML_EXPORT LinkException : public ZelmarMediaLibException {
 public:
     LinkException(Range<long long> const& first, Range<long long> const& second);
 

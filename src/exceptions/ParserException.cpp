@@ -3,16 +3,14 @@
 namespace ZelmarMediaLib {
 
 ParserException::ParserException(std::string const& message, int line, int column)
-    : ZelmarMediaLibException(message), line_(line), column_(column) {}
+    : ZelmarMediaLibException(message),
+      line_(line),
+      column_(column),
+      composed_(message + " line:" + std::to_string(line) + " col:" + std::to_string(column)) {}
 
 ParserException::~ParserException() noexcept = default;
 
 char const* ParserException::what() const noexcept {
-    try {
-        composed_ = message() + " line:" + std::to_string(line_) + " col:" + std::to_string(column_);
-    } catch (...) {
-        return message().c_str();
-    }
     return composed_.c_str();
 }
 

@@ -1,10 +1,11 @@
 #pragma once
 // A lock taken in a way that would deadlock.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
 
 namespace ZelmarMediaLib {
 
-class ThreadLockingException : public ZelmarMediaLibException {
+class ZML_EXPORT ThreadLockingException : public ZelmarMediaLibException {
 public:
     explicit ThreadLockingException(std::string const& message);
 };

@@ -1,11 +1,13 @@
 #pragma once
 // The root of every failure that the library reports on its own.
+#include <ZelmarMediaLib/datatypes/Export.h>
+
 #include <exception>
 #include <string>
 
 namespace ZelmarMediaLib {
 
-class ZelmarMediaLibException : public std::exception {
+class ZML_EXPORT ZelmarMediaLibException : public std::exception {
 public:
     explicit ZelmarMediaLibException(std::string const& message);
     ~ZelmarMediaLibException() noexcept override;

@@ -1,6 +1,7 @@
 #pragma once
 // A user-visible ident string, held as an attribute that is copied with the object.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/ThreadSafe.h>
 
 #include <string>
@@ -10,7 +11,7 @@ namespace ZelmarMediaLib {
 template <class T>
 class Attribute;
 
-class Identified {
+class ZML_EXPORT Identified {
 public:
     explicit Identified(weak_ptr<ThreadSafe const> project);
     // The copy gets a clone of the attribute, so changing its ident leaves the source's alone.

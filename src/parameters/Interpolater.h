@@ -1,6 +1,7 @@
 #pragma once
 // What a parameter's value is between two keyframes: a blend, or the left value held.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/ZelmarObject.h>
 
 #include <string>
@@ -8,13 +9,15 @@
 namespace ZelmarMediaLib {
 
 // Stateless, so one instance of each kind and type serves every parameter of every project.
+// Exported although wholly in this header: the shared instances, and the type identity of
+// an application's own interpolaters, must be one across the library and the application.
 template <class T>
-class Interpolater : public virtual ZelmarObject {
+class ZML_EXPORT Interpolater : public virtual ZelmarObject {
 public:
     explicit Interpolater(std::string const& name) : name_(name) {}
 
     // Equal ends give the left one without blending; a NaN is never equal, so it blends.
-    virtual T interpolate(T const& left, T const& right, double fraction) const {
+    virtual T interpolate(T left, T right, double fraction) const {
         if (left == right)
             return left;
         return doInterpolate(left, right, fraction);
@@ -24,7 +27,8 @@ public:
     std::string const& name() const { return name_; }
 
 protected:
-    virtual T doInterpolate(T const& left, T const& right, double fraction) const = 0;
+    // Applications override this, by value and const as here, for interpolaters of their own.
+    virtual T doInterpolate(T left, T right, double fraction) const = 0;
 
 private:
     std::string name_;
@@ -38,7 +42,7 @@ std::string xml_representation(shared_ptr<Interpolater<T> > const& interpolater)
 
 // A straight blend: left * (1 - f) + right * f.
 template <class T>
-class LinearInterpolater : public Interpolater<T> {
+class ZML_EXPORT LinearInterpolater : public Interpolater<T> {
 public:
     // The shared instance, made on first use; safe when that use comes on several threads.
     static shared_ptr<LinearInterpolater<T> > const& instance() {
@@ -50,7 +54,7 @@ public:
     static shared_ptr<LinearInterpolater<T> > s_instance;
 
 protected:
-    T doInterpolate(T const& left, T const& right, double fraction) const override {
+    T doInterpolate(T left, T right, double fraction) const override {
         return left * (1.0 - fraction) + right * fraction;
     }
 
@@ -63,19 +67,18 @@ shared_ptr<LinearInterpolater<T> > LinearInterpolater<T>::s_instance;
 
 // The float blend runs in double and is rounded back at the end.
 template <>
-inline float LinearInterpolater<float>::doInterpolate(float const& left, float const& right, double fraction) const {
+inline float LinearInterpolater<float>::doInterpolate(float left, float right, double fraction) const {
     return static_cast<float>((1.0 - fraction) * static_cast<double>(left) + fraction * static_cast<double>(right));
 }
 
 template <>
-inline double LinearInterpolater<double>::doInterpolate(double const& left, double const& right,
-                                                        double fraction) const {
+inline double LinearInterpolater<double>::doInterpolate(double left, double right, double fraction) const {
     return (1.0 - fraction) * left + fraction * right;
 }
 
 // Holds the left value until the next keyframe.
 template <class T>
-class LeftInterpolater : public Interpolater<T> {
+class ZML_EXPORT LeftInterpolater : public Interpolater<T> {
 public:
     static shared_ptr<LeftInterpolater<T> > const& instance() {
         static bool const made = (s_instance = shared_ptr<LeftInterpolater<T> >(new LeftInterpolater<T>), true);
@@ -86,7 +89,7 @@ public:
     static shared_ptr<LeftInterpolater<T> > s_instance;
 
 protected:
-    T doInterpolate(T const& left, T const&, double) const override { return left; }
+    T doInterpolate(T left, T, double) const override { return left; }
 
 private:
     LeftInterpolater() : Interpolater<T>("left") {}

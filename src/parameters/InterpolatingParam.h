@@ -1,5 +1,9 @@
 #pragma once
 // A parameter whose keyframes are blended, with a second, keyframed lane that picks the interpolater.
+#include <ZelmarMediaLib/datatypes/AudioPosition.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
+#include <ZelmarMediaLib/datatypes/Point.h>
+#include <ZelmarMediaLib/datatypes/TransformMatrix.h>
 #include <ZelmarMediaLib/parameters/LeftParameter.h>
 #include <ZelmarMediaLib/parameters/ParameterDispatcher.h>
 #include <ZelmarMediaLib/parameters/ParameterImpl.h>
@@ -89,5 +93,12 @@ public:
 private:
     shared_ptr<Lane> lane_;
 };
+
+// Compiled once in the library (ParameterInstances.cpp) and exported from it, like the lanes.
+extern template class ZML_EXPORT InterpolatingParam<double>;
+extern template class ZML_EXPORT InterpolatingParam<float>;
+extern template class ZML_EXPORT InterpolatingParam<Point>;
+extern template class ZML_EXPORT InterpolatingParam<TransformMatrix>;
+extern template class ZML_EXPORT InterpolatingParam<AudioPosition>;
 
 }  // namespace ZelmarMediaLib

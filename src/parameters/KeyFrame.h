@@ -8,7 +8,7 @@ namespace ZelmarMediaLib {
 template <class T>
 class KeyFrame : public virtual ZelmarObject, public virtual Cloneable {
 public:
-    KeyFrame(long long time, T const& value) : time(time), value(value) {}
+    KeyFrame(long long timeValue, T const& valueAtTime) : time(timeValue), value(valueAtTime) {}
     KeyFrame(KeyFrame const&) = default;
 
     // A pointer value is copied and its object shared.

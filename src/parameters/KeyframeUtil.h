@@ -1,5 +1,6 @@
 #pragma once
 // The span of time over which an object's parameters change.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Range.h>
 
 namespace ZelmarMediaLib {
@@ -12,7 +13,7 @@ namespace KeyframeUtil {
 // it has no keyframe) and widens it by every parameter with more than one keyframe. The
 // end is recomputed from the new start with the old duration, so a start that moves
 // earlier drops that distance: (10,10) meeting (0,5) gives (0,10).
-Range<long long> keyframeRange(Parametric const* parametric);
+ZML_EXPORT Range<long long> keyframeRange(Parametric const* parametric);
 
 }  // namespace KeyframeUtil
 }  // namespace ZelmarMediaLib

@@ -1,5 +1,8 @@
 #pragma once
 // A parameter whose value jumps at each keyframe and holds until the next.
+#include <ZelmarMediaLib/datatypes/Color.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
+#include <ZelmarMediaLib/parameters/Interpolater.h>
 #include <ZelmarMediaLib/parameters/ParameterDispatcher.h>
 #include <ZelmarMediaLib/parameters/ParameterImpl.h>
 
@@ -34,5 +37,17 @@ public:
     void xmlAttributes(XMLable::Options&) const override {}
     void xmlBody(XMLable::Options& options, int indent) const override { this->xmlOfKeyFrames(options, indent); }
 };
+
+// Compiled once in the library (ParameterInstances.cpp) and exported from it: every user shares
+// its one vtable and typeinfo, so that a dynamic_cast or catch across the library boundary
+// sees a single class.
+extern template class ZML_EXPORT LeftParameter<std::string>;
+extern template class ZML_EXPORT LeftParameter<Color>;
+extern template class ZML_EXPORT LeftParameter<shared_ptr<IMFile> >;
+extern template class ZML_EXPORT LeftParameter<shared_ptr<Interpolater<double> > >;
+extern template class ZML_EXPORT LeftParameter<shared_ptr<Interpolater<float> > >;
+extern template class ZML_EXPORT LeftParameter<shared_ptr<Interpolater<Point> > >;
+extern template class ZML_EXPORT LeftParameter<shared_ptr<Interpolater<TransformMatrix> > >;
+extern template class ZML_EXPORT LeftParameter<shared_ptr<Interpolater<AudioPosition> > >;
 
 }  // namespace ZelmarMediaLib

@@ -1,6 +1,7 @@
 #pragma once
 // Visitors over the concrete parameter classes, for code that must act on a parameter whose type it doesn't know.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 
 #include <string>
 
@@ -19,7 +20,7 @@ template <class T>
 class LeftParameter;
 
 // The library implements none; the application does.
-class ParameterDispatcher {
+class ZML_EXPORT ParameterDispatcher {
 public:
     virtual ~ParameterDispatcher() = default;
     virtual void dispatch(shared_ptr<InterpolatingParam<double> > parameter) = 0;
@@ -37,7 +38,7 @@ public:
     virtual void dispatch(shared_ptr<LeftParameter<shared_ptr<Interpolater<AudioPosition> > > > parameter) = 0;
 };
 
-class ConstParameterDispatcher {
+class ZML_EXPORT ConstParameterDispatcher {
 public:
     virtual ~ConstParameterDispatcher() = default;
     virtual void dispatch(shared_ptr<InterpolatingParam<double> const> parameter) = 0;

@@ -1,5 +1,6 @@
 // The concrete parameter classes of the system, instantiated once here so that every
-// member is compiled for every value type the model uses.
+// member is compiled for every value type the model uses. Their headers declare them
+// extern and exported, so that the library and its applications share this one copy of each.
 #include <ZelmarMediaLib/datatypes/AudioPosition.h>
 #include <ZelmarMediaLib/datatypes/Color.h>
 #include <ZelmarMediaLib/datatypes/Point.h>

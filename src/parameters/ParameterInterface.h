@@ -2,6 +2,7 @@
 // What every parameter offers whatever its value type: its name, its keyframe times, and moving them.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
 #include <ZelmarMediaLib/datatypes/Cloneable.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Range.h>
 #include <ZelmarMediaLib/datatypes/Subject.h>
 #include <ZelmarMediaLib/datatypes/XMLable.h>
@@ -14,7 +15,7 @@ namespace ZelmarMediaLib {
 class ParameterDispatcher;
 class ConstParameterDispatcher;
 
-class ParameterInterface : public virtual Cloneable, public XMLable, public Subject {
+class ZML_EXPORT ParameterInterface : public virtual Cloneable, public XMLable, public Subject {
 public:
     ParameterInterface* clone() const override = 0;
     virtual std::string ident() const = 0;

@@ -1,6 +1,7 @@
 #pragma once
 // What an owner of parameters is: a list of them, lookup by name, and its parameter time.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/MTVector.h>
 #include <ZelmarMediaLib/datatypes/XMLIdentified.h>
 
@@ -16,7 +17,7 @@ class InterpolatingParam;
 // Parameters in a fixed order, read-locked while the list lives.
 typedef MTVector<shared_ptr<ParameterInterface const> > ParameterVector;
 
-class Parametric : public virtual XMLIdentified {
+class ZML_EXPORT Parametric : public virtual XMLIdentified {
 public:
     ~Parametric() override;
 

@@ -1,6 +1,7 @@
 #pragma once
 // The keyframed translation, rotation, shear, scale and anchor of a visual object, and the matrix they compose.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/ThreadSafe.h>
 #include <ZelmarMediaLib/datatypes/TransformMatrix.h>
 #include <ZelmarMediaLib/datatypes/XMLable.h>
@@ -12,7 +13,7 @@ class VectorParam;
 
 // A mix-in: the owner is the Parametric whose time base the components are keyed in, and it
 // is passed to each query rather than stored, because the owner is the derived object itself.
-class Transformer {
+class ZML_EXPORT Transformer {
 public:
     // Each component starts with one keyframe at 0: scale at 1, everything else at 0.
     explicit Transformer(weak_ptr<ThreadSafe const> project);

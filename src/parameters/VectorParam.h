@@ -2,6 +2,7 @@
 // A fixed number of double parameters grouped as one vector: name0, name1, ...
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
 #include <ZelmarMediaLib/datatypes/Cloneable.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/SubProject.h>
 #include <ZelmarMediaLib/datatypes/XMLable.h>
 #include <ZelmarMediaLib/parameters/Identified.h>
@@ -14,7 +15,7 @@ namespace ZelmarMediaLib {
 template <class T>
 class InterpolatingParam;
 
-class VectorParam : public SubProject, public XMLable, public virtual Cloneable, public Identified {
+class ZML_EXPORT VectorParam : public SubProject, public XMLable, public virtual Cloneable, public Identified {
 public:
     // The components start without keyframes: the owner gives each its first.
     VectorParam(weak_ptr<ThreadSafe const> project, int dimensions, std::string const& name);

@@ -1,6 +1,6 @@
 #include <ZelmarMediaLib/project/Project.h>
 
-#include <ZelmarMediaLib/project/InternalProject.h>
+#include <ZelmarMediaLib/project/detail/InternalProject.h>
 
 namespace ZelmarMediaLib {
 

@@ -2,6 +2,7 @@
 // The one object an application holds: it runs commands, walks their history and hands out the model.
 #include <ZelmarMediaLib/commands/CommandHistoryState.h>
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/ProjectEditRate.h>
 #include <ZelmarMediaLib/datatypes/Subject.h>
 #include <ZelmarMediaLib/datatypes/ThreadSafe.h>
@@ -21,7 +22,7 @@ class SourceBinSentry;
 class Timeline;
 
 // Every change goes through execute(); each call is complete when it returns.
-class Project : public XMLable, public virtual ThreadSafe, public ProjectEditRate, public Subject {
+class ZML_EXPORT Project : public XMLable, public virtual ThreadSafe, public ProjectEditRate, public Subject {
 public:
     // Raises boost::bad_rational for a zero denominator.
     static shared_ptr<Project> create(unsigned int numerator, unsigned int denominator);

@@ -1,5 +1,6 @@
 #pragma once
 // Channels of an audio file track placed as a media.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/timeline/AudioMedia.h>
 
 #include <iosfwd>
@@ -9,7 +10,7 @@
 
 namespace ZelmarMediaLib {
 
-class AMFile : public AudioMedia {
+class ZML_EXPORT AMFile : public AudioMedia {
 public:
     typedef std::set<unsigned int> ChannelSet;
 

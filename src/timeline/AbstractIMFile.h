@@ -1,5 +1,6 @@
 #pragma once
 // A still from a file track, placed as a media.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/timeline/FileRepresentation.h>
 #include <ZelmarMediaLib/timeline/ImageMedia.h>
 
@@ -9,7 +10,7 @@ namespace ZelmarMediaLib {
 
 class VisualFileMedia;
 
-class AbstractIMFile : public ImageMedia, public FileRepresentation {
+class ZML_EXPORT AbstractIMFile : public ImageMedia, public FileRepresentation {
 public:
     ~AbstractIMFile() override;
 
@@ -44,7 +45,7 @@ private:
 };
 
 // The concrete still.
-class IMFile : public AbstractIMFile {
+class ZML_EXPORT IMFile : public AbstractIMFile {
 public:
     IMFile(long long start, long long duration, weak_ptr<ThreadSafe const> project, shared_ptr<Source const> source,
            unsigned int track);

@@ -1,6 +1,7 @@
 #pragma once
 // What the two kinds of picture track share: their own transform, and their medias seen as visual medias.
 #include <ZelmarMediaLib/datatypes/ConstIterator.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/parameters/Transformer.h>
 #include <ZelmarMediaLib/timeline/Track.h>
 #include <ZelmarMediaLib/timeline/TypedMediaMap.h>
@@ -9,7 +10,7 @@ namespace ZelmarMediaLib {
 
 class VisualMedia;
 
-class AbstractVisualTrack : public Track, public Transformer {
+class ZML_EXPORT AbstractVisualTrack : public Track, public Transformer {
 public:
     typedef VisualMedia MediaType;
     typedef TypedMediaMap<VisualMedia> VisualMediaMap;

@@ -1,5 +1,6 @@
 #pragma once
 // The common base of all audio medias: sample format, volume over time and gain.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/timeline/MediaImpl.h>
 
 #include <memory>
@@ -12,7 +13,7 @@ template <class T>
 class InterpolatingParam;
 class TemporalEditor;
 
-class AudioMedia : public MediaImpl {
+class ZML_EXPORT AudioMedia : public MediaImpl {
 public:
     ~AudioMedia() override;
 

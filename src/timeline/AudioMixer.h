@@ -1,5 +1,6 @@
 #pragma once
 // The stack of audio tracks, with the output format of the project's sound.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/timeline/Mixer.h>
 
 namespace ZelmarMediaLib {
@@ -8,7 +9,7 @@ template <class T>
 class Attribute;
 class AudioTrack;
 
-class AudioMixer : public Mixer {
+class ZML_EXPORT AudioMixer : public Mixer {
 public:
     AudioMixer(unsigned int sampleRate, unsigned int bitDepth, unsigned int numChannels,
                weak_ptr<ThreadSafe const> project);

@@ -1,6 +1,7 @@
 #pragma once
 // The track for sound: takes audio files and audio transitions, and places its sound in space.
 #include <ZelmarMediaLib/datatypes/ConstIterator.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/timeline/Track.h>
 #include <ZelmarMediaLib/timeline/TypedMediaMap.h>
 
@@ -13,7 +14,7 @@ class AudioPosition;
 template <class T>
 class InterpolatingParam;
 
-class AudioTrack : public Track {
+class ZML_EXPORT AudioTrack : public Track {
 public:
     typedef AudioMedia MediaType;
     typedef TypedMediaMap<AudioMedia> AudioMediaMap;

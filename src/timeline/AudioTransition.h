@@ -1,5 +1,6 @@
 #pragma once
 // A sound transition: one effect, no channels, no material.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/timeline/AudioMedia.h>
 #include <ZelmarMediaLib/timeline/Transition.h>
 
@@ -11,7 +12,7 @@ namespace ZelmarMediaLib {
 class AMFile;
 class StaticEditor;
 
-class AudioTransition : public AudioMedia, public Transition {
+class ZML_EXPORT AudioTransition : public AudioMedia, public Transition {
 public:
     AudioTransition(long long duration, shared_ptr<Effect const> effect, weak_ptr<ThreadSafe const> project);
     AudioTransition(AudioTransition const& other);

@@ -1,5 +1,6 @@
 #pragma once
 // A balloon or arrow still from a file, with a text area and a hot spot on it.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Point.h>
 #include <ZelmarMediaLib/datatypes/Rect.h>
 #include <ZelmarMediaLib/timeline/AbstractIMFile.h>
@@ -11,7 +12,7 @@ class Attribute;
 template <class T>
 class LeftParameter;
 
-class Callout : public AbstractIMFile {
+class ZML_EXPORT Callout : public AbstractIMFile {
 public:
     Callout(long long start, long long duration, weak_ptr<ThreadSafe const> project, shared_ptr<Source const> source,
             unsigned int track);

@@ -1,5 +1,6 @@
 #pragma once
 // A still picture: free of file limits, with its keyframes held on the same moment when its start is trimmed.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/timeline/VisualMedia.h>
 
 #include <memory>
@@ -8,7 +9,7 @@ namespace ZelmarMediaLib {
 
 class StaticEditor;
 
-class ImageMedia : public VisualMedia {
+class ZML_EXPORT ImageMedia : public VisualMedia {
 public:
     ~ImageMedia() override;
 

@@ -1,12 +1,13 @@
 #pragma once
 // The track for still pictures and annotations only.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/timeline/AbstractVisualTrack.h>
 
 namespace ZelmarMediaLib {
 
 class ImageMedia;
 
-class ImageTrack : public AbstractVisualTrack {
+class ZML_EXPORT ImageTrack : public AbstractVisualTrack {
 public:
     typedef ImageMedia MediaType;
     typedef TypedMediaMap<ImageMedia> ImageMediaMap;

@@ -1,5 +1,6 @@
 #pragma once
 // A picture transition: one effect, no size, no placement of its own.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/timeline/ImageMedia.h>
 #include <ZelmarMediaLib/timeline/Transition.h>
 
@@ -7,7 +8,7 @@
 
 namespace ZelmarMediaLib {
 
-class ImageTransition : public ImageMedia, public Transition {
+class ZML_EXPORT ImageTransition : public ImageMedia, public Transition {
 public:
     // Both media limits are 0: a transition comes from no material.
     ImageTransition(long long duration, weak_ptr<ThreadSafe const> project);

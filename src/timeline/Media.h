@@ -3,6 +3,7 @@
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
 #include <ZelmarMediaLib/datatypes/Cloneable.h>
 #include <ZelmarMediaLib/datatypes/ConstIterator.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Range.h>
 #include <ZelmarMediaLib/edgemods/EdgeModifiable.h>
 #include <ZelmarMediaLib/timeline/SubTimeline.h>
@@ -17,7 +18,7 @@ class MediaEditor;
 class Source;
 class Track;
 
-class Media : public SubTimeline,
+class ZML_EXPORT Media : public SubTimeline,
               public DecoratedCloneable<Media>,
               public enable_shared_from_this<Media>,
               public EdgeModifiable {
@@ -48,7 +49,9 @@ public:
     virtual ConstIterator<LinkList> linkEnd() const = 0;
     virtual LinkList::iterator linkEnd() = 0;
     virtual bool isLinkableWith(shared_ptr<Media const> other) = 0;
-    // The range a stretch to that speed would give; used for collision checks.
+    // A forecast of the range a stretch to that speed gives, which leaves the current scalar
+    // out and so is exact only at real time; the track's checks use the editor's
+    // stretchedDuration, which is what the stretch itself computes.
     virtual Range<long long> trackRangeWithStretch(double wanted) const = 0;
     virtual Range<double> mediaRange() const = 0;
     virtual Range<long long> trackRange() const = 0;

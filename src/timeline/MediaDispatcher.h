@@ -1,6 +1,7 @@
 #pragma once
 // Double dispatch on the seven concrete media kinds: code that differs by kind uses these, not type tests.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 
 #include <string>
 
@@ -14,7 +15,7 @@ class ImageTransition;
 class TextBox;
 class VMFile;
 
-class MediaDispatcher {
+class ZML_EXPORT MediaDispatcher {
 public:
     virtual ~MediaDispatcher() = default;
     virtual void dispatchMedia(shared_ptr<VMFile> media) = 0;
@@ -26,7 +27,7 @@ public:
     virtual void dispatchMedia(shared_ptr<Callout> media) = 0;
 };
 
-class ConstMediaDispatcher {
+class ZML_EXPORT ConstMediaDispatcher {
 public:
     virtual ~ConstMediaDispatcher() = default;
     virtual void dispatchMedia(shared_ptr<VMFile const> media) = 0;
@@ -40,7 +41,7 @@ public:
 
 // Every kind goes to mediaNotHandled, which raises; a subclass overrides the kinds it
 // cares for, and may override mediaNotHandled to ignore the rest.
-class DefaultMediaDispatcher : public MediaDispatcher {
+class ZML_EXPORT DefaultMediaDispatcher : public MediaDispatcher {
 public:
     void dispatchMedia(shared_ptr<VMFile> media) override;
     void dispatchMedia(shared_ptr<AMFile> media) override;
@@ -53,7 +54,7 @@ public:
     virtual void mediaNotHandled();
 };
 
-class ConstDefaultMediaDispatcher : public ConstMediaDispatcher {
+class ZML_EXPORT ConstDefaultMediaDispatcher : public ConstMediaDispatcher {
 public:
     void dispatchMedia(shared_ptr<VMFile const> media) override;
     void dispatchMedia(shared_ptr<AMFile const> media) override;

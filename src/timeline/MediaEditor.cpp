@@ -59,11 +59,15 @@ double MediaEditor::findScalar(double wanted) const {
     return roundHalfUp(duration / scalar * wanted) * scalar / duration;
 }
 
+long long MediaEditor::stretchedDuration(double wanted, long long trackDuration, double scalar) const {
+    double const rounded = roundHalfUp(static_cast<double>(trackDuration) / scalar * findScalar(wanted));
+    // The new duration passes through 32 bits: one beyond that range comes out negative.
+    return truncateTo32Bits(rounded);
+}
+
 double MediaEditor::stretch(double wanted, Range<long long>& trackRange, Range<double>&, double& scalar) {
     double const found = findScalar(wanted);
-    double const rounded = roundHalfUp(static_cast<double>(trackRange.duration) / scalar * found);
-    // The new duration passes through 32 bits: one beyond that range comes out negative.
-    long long const duration = truncateTo32Bits(rounded);
+    long long const duration = stretchedDuration(wanted, trackRange.duration, scalar);
     if (duration <= 0)
         throw ValueException<double>("invalid duration after media stretch (<=0)", wanted);
     trackRange.duration = duration;

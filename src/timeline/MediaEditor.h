@@ -1,5 +1,6 @@
 #pragma once
 // The arithmetic of a media's edits against the limits of its material, and its rounding rules.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Range.h>
 #include <ZelmarMediaLib/datatypes/ZelmarObject.h>
 
@@ -9,7 +10,7 @@ class MediaImpl;
 
 // A strategy owned by its media for life. It checks nothing about neighbours: the track
 // does that before it calls. Every refusal comes before any change.
-class MediaEditor : public virtual ZelmarObject {
+class ZML_EXPORT MediaEditor : public virtual ZelmarObject {
 public:
     explicit MediaEditor(MediaImpl* media);
 
@@ -41,6 +42,10 @@ public:
     // A speed near the wanted one that gives a whole number of track units; 1.0 returns
     // to real time, cut to the material left behind the media start.
     double findScalar(double wanted) const;
+    // The track duration that stretch() gives for these values, without changing anything;
+    // not above 0 where stretch() refuses. Checks before a stretch use it, so that they test
+    // exactly what the stretch will do.
+    long long stretchedDuration(double wanted, long long trackDuration, double scalar) const;
     bool validMediaStartWithTrimOffset(long long offset) const;
     bool validMediaDurationWithTrimOffset(long long offset) const;
 

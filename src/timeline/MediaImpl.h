@@ -1,5 +1,6 @@
 #pragma once
 // The storage and behaviour that every concrete media kind shares: ranges, speed, links, effects, edge zones.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/effects/EffectTimeConverter.h>
 #include <ZelmarMediaLib/timeline/Media.h>
 
@@ -11,7 +12,7 @@ namespace ZelmarMediaLib {
 class VectorEffectable;
 
 // Invariant, up to rounding on the track side: trackRange.duration = mediaRange.duration * scalar.
-class MediaImpl : public Media, public EffectTimeConverter {
+class ZML_EXPORT MediaImpl : public Media, public EffectTimeConverter {
 public:
     ~MediaImpl() override;
 
@@ -24,8 +25,12 @@ public:
     void link(shared_ptr<Media> other) override;
     // Raises ValueException<shared_ptr<Media const> > "unable to link media".
     void addLink(shared_ptr<Media> other) override;
+    // Raises ValueException<shared_ptr<Media> > for the media itself, for a media not linked,
+    // and for one whose track range has drifted from this one's: a link is undone before
+    // the ranges part.
     void removeLink(shared_ptr<Media> other) override;
-    // The plain removal from the list, with no test of ranges.
+    // The plain removal from the list, with no test of ranges; raises "unable to remove
+    // linked media list" when the media isn't in it.
     void removeFromLinkedMediaList(shared_ptr<Media> other);
     bool isLinkedWith(shared_ptr<Media const> other) const override;
     ConstIterator<LinkList> linkBegin() const override;

@@ -3,9 +3,10 @@
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
 #include <ZelmarMediaLib/datatypes/Cloneable.h>
 #include <ZelmarMediaLib/datatypes/ConstIterator.h>
-#include <ZelmarMediaLib/datatypes/LinkCloneUtil.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/ReadWriteMutex.h>
 #include <ZelmarMediaLib/exceptions/ValueException.h>
+#include <ZelmarMediaLib/timeline/LinkCloneUtil.h>
 #include <ZelmarMediaLib/timeline/SubTimeline.h>
 #include <ZelmarMediaLib/timeline/Track.h>
 
@@ -22,7 +23,7 @@ class VectorEffectable;
 
 // Index 0 is the first track of the list; the list's order is the stacking order. Reads
 // take the project's read lock; edits take none, since commands hold the write lock.
-class Mixer : public SubTimeline, public virtual Cloneable, public enable_shared_from_this<Mixer> {
+class ZML_EXPORT Mixer : public SubTimeline, public virtual Cloneable, public enable_shared_from_this<Mixer> {
 public:
     typedef std::vector<shared_ptr<Track> > TrackList;
     typedef std::set<shared_ptr<Track const> > TrackSet;

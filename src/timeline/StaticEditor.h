@@ -1,10 +1,11 @@
 #pragma once
 // The editor of material without a time axis (stills, annotations, transitions): no file limits.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/timeline/MediaEditor.h>
 
 namespace ZelmarMediaLib {
 
-class StaticEditor : public MediaEditor {
+class ZML_EXPORT StaticEditor : public MediaEditor {
 public:
     // trimStartSum points into the owning media, or is null for a kind that keeps no sum.
     StaticEditor(MediaImpl* media, long long* trimStartSum);

@@ -1,5 +1,6 @@
 #pragma once
 // The common base of medias, tracks and mixers: parameters, effects, attributes, XML and a span of time.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/SubProject.h>
 #include <ZelmarMediaLib/datatypes/Subject.h>
 #include <ZelmarMediaLib/datatypes/XMLable.h>
@@ -13,7 +14,7 @@ namespace ZelmarMediaLib {
 
 class VectorEffectable;
 
-class SubTimeline : public SubProject,
+class ZML_EXPORT SubTimeline : public SubProject,
                     public Subject,
                     public Parametric,
                     public Effectable,

@@ -1,10 +1,11 @@
 #pragma once
 // Something that occupies a span of timeline time.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Range.h>
 
 namespace ZelmarMediaLib {
 
-class Temporal {
+class ZML_EXPORT Temporal {
 public:
     virtual ~Temporal() = default;
     virtual long long startTime() const = 0;

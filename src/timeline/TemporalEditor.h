@@ -1,10 +1,11 @@
 #pragma once
 // The editor of material with a time axis of its own (video, audio): trims stay within the file.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/timeline/MediaEditor.h>
 
 namespace ZelmarMediaLib {
 
-class TemporalEditor : public MediaEditor {
+class ZML_EXPORT TemporalEditor : public MediaEditor {
 public:
     explicit TemporalEditor(MediaImpl* media);
 

@@ -1,5 +1,6 @@
 #pragma once
 // A text of its own over the picture, with no file behind it.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/timeline/ImageMedia.h>
 
 #include <string>
@@ -11,7 +12,7 @@ class Attribute;
 template <class T>
 class LeftParameter;
 
-class TextBox : public ImageMedia {
+class ZML_EXPORT TextBox : public ImageMedia {
 public:
     TextBox(std::string const& text, long long duration, float width, float height,
             weak_ptr<ThreadSafe const> project);

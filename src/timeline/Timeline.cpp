@@ -1,11 +1,11 @@
 #include <ZelmarMediaLib/timeline/Timeline.h>
 
-#include <ZelmarMediaLib/datatypes/LinkUtil.h>
 #include <ZelmarMediaLib/datatypes/ReadWriteMutex.h>
 #include <ZelmarMediaLib/parameters/LeftParameter.h>
 #include <ZelmarMediaLib/timeline/AbstractVisualTrack.h>
 #include <ZelmarMediaLib/timeline/AudioMixer.h>
 #include <ZelmarMediaLib/timeline/AudioTrack.h>
+#include <ZelmarMediaLib/timeline/LinkUtil.h>
 #include <ZelmarMediaLib/timeline/VisualMixer.h>
 
 #include <algorithm>

@@ -2,6 +2,7 @@
 // The top of a document's time structure: at most one visual and one audio mixer, and a marker track.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
 #include <ZelmarMediaLib/datatypes/Cloneable.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Range.h>
 #include <ZelmarMediaLib/datatypes/SubProject.h>
 #include <ZelmarMediaLib/datatypes/Subject.h>
@@ -28,7 +29,7 @@ class Source;
 class VisualMixer;
 
 // Reads take the project's read lock; edits take none, since commands hold the write lock.
-class Timeline : public SubProject,
+class ZML_EXPORT Timeline : public SubProject,
                  public XMLable,
                  public virtual Cloneable,
                  public Subject,

@@ -9,6 +9,7 @@
 #include <ZelmarMediaLib/exceptions/LinkException.h>
 #include <ZelmarMediaLib/exceptions/ValueException.h>
 #include <ZelmarMediaLib/timeline/Media.h>
+#include <ZelmarMediaLib/timeline/MediaEditor.h>
 #include <ZelmarMediaLib/timeline/ParentedMedia.h>
 #include <ZelmarMediaLib/timeline/Transition.h>
 
@@ -22,6 +23,11 @@ namespace {
 char const* const notFoundText = "media not found in track";
 char const* const parentedText = "trying to edit parented media like a parentless media";
 char const* const notToRemoveText = "can't find media to remove";
+char const* const moveBeforeZeroText = "invalid media move offset (start<0)";
+char const* const addBeforeZeroText = "invalid media start on track (start<0)";
+char const* const trimStartText = "invalid media trim start offset";
+char const* const trimEndText = "invalid media trim end offset";
+char const* const stretchText = "invalid duration after media stretch (<=0)";
 
 Media const& requireMedia(shared_ptr<Media const> const& media) {
     if (!media)
@@ -53,6 +59,31 @@ void editLinkedMedias(Track const& track, shared_ptr<Media> const& media, Edit e
         }
     } catch (ZelmarMediaLibException const&) {
     }
+}
+
+// A media's place on a track begins at 0 or later and lasts at least one unit. The trim texts
+// are the editors' own, which refuse the same of a temporal media; a static media's editor
+// allows any trim and leaves this to the track.
+void checkMoveRange(Range<long long> const& range, long long offset) {
+    if (range.start < 0)
+        throw ValueException<long long>(moveBeforeZeroText, offset);
+}
+
+void checkTrimStartRange(Range<long long> const& range, long long offset) {
+    if (range.start < 0 || range.duration <= 0)
+        throw ValueException<long long>(trimStartText, offset);
+}
+
+void checkTrimEndRange(Range<long long> const& range, long long offset) {
+    if (range.duration <= 0)
+        throw ValueException<long long>(trimEndText, offset);
+}
+
+// What stretch() will give the media, through the editor's own arithmetic.
+Range<long long> stretchedRange(Media const& media, double wanted) {
+    ReadWriteMutex::ScopedReadLock lock(&media.mutex());
+    Range<long long> const range = media.trackRange();
+    return Range<long long>(range.start, media.mediaEditor()->stretchedDuration(wanted, range.duration, media.scalar()));
 }
 
 void removeLeftEdgeMods(shared_ptr<Media> const& media) {
@@ -368,9 +399,28 @@ bool Track::intersectionAtRange(Range<long long> const& range) const {
     return false;
 }
 
-shared_ptr<Track::MediaList> Track::collidingMedia(shared_ptr<Media const> media, Range<long long> const& range,
-                                                   bool withLinks) const {
-    shared_ptr<MediaList> colliding = mediasIntersectingRange(range, media);
+// Overlap alone would miss a media of no duration at the range's start, and one of no
+// duration placed at another's start: either way an entry would be overwritten.
+shared_ptr<Track::MediaList> Track::mediasInTheWay(Range<long long> const& range,
+                                                   shared_ptr<Media const> const& ignored) const {
+    ReadWriteMutex::ScopedReadLock lock(&mutex());
+    shared_ptr<MediaList> hits = mediasIntersectingRange(range, ignored);
+    MediaMap const& store = medias();
+    MediaMap::const_iterator const entry = store.find(range.start);
+    if (entry == store.end() || entry->second == ignored)
+        return hits;
+    MediaList::iterator at = hits->begin();
+    while (at != hits->end() && (*at)->trackRange().start < range.start)
+        ++at;
+    if (at == hits->end() || *at != entry->second)
+        hits->insert(at, entry->second);
+    return hits;
+}
+
+template <class RangeOf>
+shared_ptr<Track::MediaList> Track::collisions(shared_ptr<Media const> const& media, bool withLinks,
+                                               RangeOf const& rangeOf) const {
+    shared_ptr<MediaList> colliding = mediasInTheWay(rangeOf(media), media);
     if (!withLinks || !media)
         return colliding;
     Range<long long> const own = media->trackRange();
@@ -380,9 +430,21 @@ shared_ptr<Track::MediaList> Track::collidingMedia(shared_ptr<Media const> media
         Range<long long> const linkedRange = linked.first->trackRange();
         if (linkedRange != own)
             throw LinkException(own, linkedRange);
-        colliding->splice(colliding->end(), *linked.second->mediasIntersectingRange(range, linked.first));
+        colliding->splice(colliding->end(), *linked.second->mediasInTheWay(rangeOf(linked.first), linked.first));
     }
     return colliding;
+}
+
+shared_ptr<Track::MediaList> Track::collidingMedia(shared_ptr<Media const> media, Range<long long> const& range,
+                                                   bool withLinks) const {
+    return collisions(media, withLinks, [&range](shared_ptr<Media const> const&) { return range; });
+}
+
+template <class Check>
+void Track::checkLinkedMedias(shared_ptr<Media> const& media, Check const& check) const {
+    Media::LinkList const links(media->linkBegin(), media->linkEnd());
+    for (weak_ptr<Media> const& link : links)
+        check(*lockMediaAndTrack<Media, Track>(link).first);
 }
 
 shared_ptr<Media> Track::checkOwnershipAndCollisions(shared_ptr<Media const> media, Range<long long> const& range,
@@ -409,16 +471,15 @@ void Track::relocateMedia(shared_ptr<Media> media, long long oldStart, long long
 void Track::addMediaSansTypeCheck(shared_ptr<Media> media, long long start) {
     // Taken first, so that a track that no shared_ptr holds is refused before any change.
     shared_ptr<Track> const self = shared_from_this();
+    // A media that lives on a track, this one or another, would be left with two entries.
+    assertParentless(media);
+    if (start < 0)
+        throw ValueException<long long>(addBeforeZeroText, start);
     Range<long long> const range(start, media->trackRange().duration);
-    shared_ptr<MediaList> const colliding =
-        static_cast<Track const*>(this)->mediasIntersectingRange(range, shared_ptr<Media const>());
+    shared_ptr<MediaList> const colliding = mediasInTheWay(range, shared_ptr<Media const>());
     if (!colliding->empty())
         throw CollisionException(colliding);
-    // A media of no duration collides with nothing, so one standing at start is overwritten.
     medias()[start] = media;
-    // A parented media is refused only once its entry stands, and the entry is not taken
-    // back: adding a media that lives on a track is the caller's fault, not repaired here.
-    assertParentless(media);
     media->setTrackStart(start);
     media->setParentTrack(self);
     notify();
@@ -428,8 +489,9 @@ void Track::removeMedia(shared_ptr<Media> media, bool removeLinked) {
     if (!media)
         throw ValueException<shared_ptr<Media> >(notToRemoveText, media);
     MediaMap& store = medias();
+    // Found by its start, then compared: another media under that key is not the one to remove.
     MediaMap::iterator const entry = store.find(media->trackRange().start);
-    if (entry == store.end())
+    if (entry == store.end() || entry->second != media)
         throw ValueException<shared_ptr<Media> >(notToRemoveText, media);
     // Every linked media must be alive and found on this track before anything is erased.
     // Linked medias share their start, so one that sits on this track under the removed
@@ -443,7 +505,7 @@ void Track::removeMedia(shared_ptr<Media> media, bool removeLinked) {
             if (!linked)
                 throw ZelmarMediaLibException("dead link when removing a media from a track");
             MediaMap::iterator const found = store.find(linked->trackRange().start);
-            if (found == store.end() || found == entry)
+            if (found == store.end() || found->second != linked)
                 throw ValueException<shared_ptr<Media> >(notToRemoveText, linked);
             linkedMedias.push_back(linked);
         }
@@ -457,26 +519,65 @@ void Track::removeMedia(shared_ptr<Media> media, bool removeLinked) {
 
 void Track::move(shared_ptr<Media const> media, long long offset, bool withLinks) {
     Range<long long> const range = requireMedia(media).trackRangeWithMove(offset);
-    moveSansCollision(checkOwnershipAndCollisions(media, range, withLinks), offset, withLinks);
+    shared_ptr<Media> const owned = checkOwnershipAndCollisions(media, range, withLinks);
+    // The linked medias share the range, so this holds for them too.
+    checkMoveRange(range, offset);
+    moveSansCollision(owned, offset, withLinks);
 }
 
 void Track::trimStart(shared_ptr<Media const> media, long long offset, bool withLinks) {
     Range<long long> const range = requireMedia(media).trackRangeWithTrimStart(offset);
-    trimStartSansCollision(checkOwnershipAndCollisions(media, range, withLinks), offset, withLinks);
+    shared_ptr<Media> const owned = checkOwnershipAndCollisions(media, range, withLinks);
+    checkTrimStartRange(range, offset);
+    // Each linked media's material is asked too: a refusal on the walk would be swallowed and
+    // leave the links apart.
+    auto const check = [offset](Media& each) {
+        if (!each.validTrimStart(offset))
+            throw ValueException<long long>(trimStartText, offset);
+    };
+    check(*owned);
+    if (withLinks)
+        checkLinkedMedias(owned, check);
+    trimStartSansCollision(owned, offset, withLinks);
 }
 
 void Track::trimEnd(shared_ptr<Media const> media, long long offset, bool withLinks) {
     Range<long long> const range = requireMedia(media).trackRangeWithTrimEnd(offset);
-    trimEndSansCollision(checkOwnershipAndCollisions(media, range, withLinks), offset, withLinks);
+    shared_ptr<Media> const owned = checkOwnershipAndCollisions(media, range, withLinks);
+    checkTrimEndRange(range, offset);
+    auto const check = [offset](Media& each) {
+        if (!each.validTrimEnd(offset))
+            throw ValueException<long long>(trimEndText, offset);
+    };
+    check(*owned);
+    if (withLinks)
+        checkLinkedMedias(owned, check);
+    trimEndSansCollision(owned, offset, withLinks);
 }
 
+// Tested with what the stretch really gives: trackRangeWithStretch leaves the current scalar
+// out, so after a stretch below real time its forecast is too short and let overlaps through.
+// Each linked media is tested with its own result, since its scalar may differ.
 double Track::stretch(shared_ptr<Media const> media, double wanted, bool withLinks) {
-    Range<long long> const range = requireMedia(media).trackRangeWithStretch(wanted);
-    return stretchSansCollision(checkOwnershipAndCollisions(media, range, withLinks), wanted, withLinks);
+    requireMedia(media);
+    shared_ptr<Media> const owned = findMedia(media);
+    if (!owned)
+        throw ValueException<shared_ptr<Media const> >(notFoundText, media);
+    shared_ptr<MediaList> const colliding = collisions(
+        media, withLinks, [wanted](shared_ptr<Media const> const& each) { return stretchedRange(*each, wanted); });
+    if (!colliding->empty())
+        throw CollisionException(colliding);
+    if (withLinks)
+        checkLinkedMedias(owned, [wanted](Media& each) {
+            if (stretchedRange(each, wanted).duration <= 0)
+                throw ValueException<double>(stretchText, wanted);
+        });
+    return stretchSansCollision(owned, wanted, withLinks);
 }
 
 void Track::moveSansCollision(shared_ptr<Media> media, long long offset, bool withLinks) {
     assertParented(media);
+    checkMoveRange(media->trackRangeWithMove(offset), offset);
     long long const oldStart = media->trackRange().start;
     media->move(offset);
     relocateMedia(media, oldStart, media->trackRange().start);
@@ -488,6 +589,7 @@ void Track::moveSansCollision(shared_ptr<Media> media, long long offset, bool wi
 
 void Track::trimStartSansCollision(shared_ptr<Media> media, long long offset, bool withLinks) {
     assertParented(media);
+    checkTrimStartRange(media->trackRangeWithTrimStart(offset), offset);
     long long const oldStart = media->trackRange().start;
     media->trimStart(offset);
     relocateMedia(media, oldStart, media->trackRange().start);
@@ -499,6 +601,7 @@ void Track::trimStartSansCollision(shared_ptr<Media> media, long long offset, bo
 
 void Track::trimEndSansCollision(shared_ptr<Media> media, long long offset, bool withLinks) {
     assertParented(media);
+    checkTrimEndRange(media->trackRangeWithTrimEnd(offset), offset);
     media->trimEnd(offset);
     if (withLinks)
         editLinkedMedias(*this, media, [offset](Track& track, shared_ptr<Media> const& linked) {

@@ -3,6 +3,7 @@
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
 #include <ZelmarMediaLib/datatypes/Cloneable.h>
 #include <ZelmarMediaLib/datatypes/ConstIterator.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Pair.h>
 #include <ZelmarMediaLib/datatypes/Range.h>
 #include <ZelmarMediaLib/exceptions/DanglingWeakPtrException.h>
@@ -27,7 +28,7 @@ class VectorEffectable;
 
 // Reads take the project's read lock themselves; edits take none, since the command that
 // runs them holds the write lock.
-class Track : public SubTimeline, public virtual Cloneable, public enable_shared_from_this<Track> {
+class ZML_EXPORT Track : public SubTimeline, public virtual Cloneable, public enable_shared_from_this<Track> {
 public:
     // What the store holds, seen from code common to all kinds.
     typedef Media MediaType;
@@ -123,9 +124,11 @@ public:
     shared_ptr<Media const> rightOfTransition(shared_ptr<Transition const> transition) const;
 
     // What would stand in the way of the media if it took the range, here and, with links, on
-    // each linked media's track. The range is tried as it stands on every linked track,
-    // which is sound only because linked medias have equal track ranges: unequal ones raise
-    // LinkException with the media's range first.
+    // each linked media's track: every media that the range overlaps, and one whose entry
+    // stands at the range's start even if nothing overlaps, as a media of no duration. The
+    // range is tried as it stands on every linked track, which is sound only because linked
+    // medias have equal track ranges: unequal ones raise LinkException with the media's
+    // range first.
     shared_ptr<MediaList> collidingMedia(shared_ptr<Media const> media, Range<long long> const& range,
                                          bool withLinks) const;
     // Raises ValueException<shared_ptr<Media const> > "media not found in track", or
@@ -137,23 +140,26 @@ public:
     // overwritten, so callers that move several medias choose an order in which no key
     // meets another.
     void relocateMedia(shared_ptr<Media> media, long long oldStart, long long newStart);
-    // Removes the entry that stands at the media's start, whichever media that is. With
-    // removeLinked, the linked medias go too, from this same track; each must be found there
-    // before anything is erased.
+    // Removes the media's entry; a media that this track doesn't hold is refused with "can't
+    // find media to remove". With removeLinked, the linked medias go too, from this same
+    // track; each must be found there before anything is erased.
     void removeMedia(shared_ptr<Media> media, bool removeLinked);
 
     // Checked edits: the range that the edit will give is tested for collisions, with the
-    // links if asked, before anything changes; then the unchecked form runs.
-    // The stretch's forecast leaves the current scalar out: below real time it is too short,
-    // and the check may pass a stretch that then overlaps a neighbour.
+    // links if asked, and each media that the edit reaches is asked whether its material
+    // allows it, all before anything changes; then the unchecked form runs. A stretch is
+    // tested with the range that the editor's rounding and limits will really give, on each
+    // linked media with its own scalar, not with trackRangeWithStretch's forecast.
     void move(shared_ptr<Media const> media, long long offset, bool withLinks);
     void trimStart(shared_ptr<Media const> media, long long offset, bool withLinks);
     void trimEnd(shared_ptr<Media const> media, long long offset, bool withLinks);
     double stretch(shared_ptr<Media const> media, double wanted, bool withLinks);
 
-    // Unchecked edits, for callers that tested already. With links, each linked media gets
-    // the same edit on its own track; the first library failure on that walk ends it
-    // silently, keeping what was done, and the call still succeeds.
+    // Unchecked edits, for callers that tested already for collisions. A move or trim start
+    // that would take the media before time 0, or a trim that would leave it no duration,
+    // is still refused before any change. With links, each linked media gets the same edit
+    // on its own track; the first library failure on that walk ends it silently, keeping
+    // what was done, and the call still succeeds.
     //   move A by 3, with links:
     //   this track:    [A ]           ->      [A ]
     //   linked track:  [A']   [B ]    ->      [A'][B ]
@@ -188,8 +194,9 @@ protected:
     Track(Track const& other);
     Track& operator=(Track const&) = delete;
 
-    // Only the kinds call this, once their dispatch has admitted the media. A media that has
-    // a parent already is refused after its entry was made, and the entry stays.
+    // Only the kinds call this, once their dispatch has admitted the media. Refused before
+    // any change: a media that has a parent already, a start before 0, and a place where
+    // another media stands or has its entry.
     virtual void addMediaSansTypeCheck(shared_ptr<Media> media, long long start);
 
     // A zone that the range cuts loses its modifications on the clone, and its length
@@ -213,6 +220,15 @@ private:
     static shared_ptr<Media const> lookAroundOnOwnTrack(Media const& media, Look const& look);
     static shared_ptr<Media const> leftNeighbour(Media const& media);
     static shared_ptr<Media const> rightNeighbour(Media const& media);
+
+    // The overlapped medias, and the one whose entry stands at the range's start.
+    shared_ptr<MediaList> mediasInTheWay(Range<long long> const& range, shared_ptr<Media const> const& ignored) const;
+    // collidingMedia with the range that each media, the main one and each linked one, will take.
+    template <class RangeOf>
+    shared_ptr<MediaList> collisions(shared_ptr<Media const> const& media, bool withLinks, RangeOf const& rangeOf) const;
+    // Calls check(linked) for each media linked with this one, which must be alive on a track.
+    template <class Check>
+    void checkLinkedMedias(shared_ptr<Media> const& media, Check const& check) const;
 
     template <class Ignore>
     void collectIntersecting(Range<long long> const& range, Ignore const& ignore, MediaList& hits) const;

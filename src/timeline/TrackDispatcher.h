@@ -1,6 +1,7 @@
 #pragma once
 // Double dispatch on the three track kinds.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 
 namespace ZelmarMediaLib {
 
@@ -8,7 +9,7 @@ class AudioTrack;
 class ImageTrack;
 class VisualTrack;
 
-class TrackDispatcher {
+class ZML_EXPORT TrackDispatcher {
 public:
     virtual ~TrackDispatcher() = default;
     virtual void dispatchTrack(shared_ptr<VisualTrack> track) = 0;
@@ -16,7 +17,7 @@ public:
     virtual void dispatchTrack(shared_ptr<AudioTrack> track) = 0;
 };
 
-class ConstTrackDispatcher {
+class ZML_EXPORT ConstTrackDispatcher {
 public:
     virtual ~ConstTrackDispatcher() = default;
     virtual void dispatchTrack(shared_ptr<VisualTrack const> track) = 0;

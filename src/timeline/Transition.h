@@ -1,6 +1,7 @@
 #pragma once
 // An item that stands between two butted medias and blends from one to the other.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Range.h>
 
 namespace ZelmarMediaLib {
@@ -9,7 +10,7 @@ class Effect;
 class Media;
 
 // Nothing points from a media to a transition or back: the track finds who touches whom.
-class Transition {
+class ZML_EXPORT Transition {
 public:
     virtual ~Transition() = default;
     virtual Range<long long> transitionRange() const = 0;

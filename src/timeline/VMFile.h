@@ -1,5 +1,6 @@
 #pragma once
 // Video from a file track, placed as a media.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Rect.h>
 #include <ZelmarMediaLib/timeline/FileRepresentation.h>
 #include <ZelmarMediaLib/timeline/VideoMedia.h>
@@ -15,7 +16,7 @@ class IMFile;
 class ScreenMetaData;
 class VisualFileMedia;
 
-class VMFile : public VideoMedia, public FileRepresentation {
+class ZML_EXPORT VMFile : public VideoMedia, public FileRepresentation {
 public:
     // The material's limits are the source's time range. Raises "trying to make a vmfile with
     // an invalid source track" unless the source has that track and it is a video track.

@@ -1,5 +1,6 @@
 #pragma once
 // A picture with a time axis of its own, trimmed within the limits of its material.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/timeline/VisualMedia.h>
 
 #include <memory>
@@ -8,7 +9,7 @@ namespace ZelmarMediaLib {
 
 class TemporalEditor;
 
-class VideoMedia : public VisualMedia {
+class ZML_EXPORT VideoMedia : public VisualMedia {
 public:
     ~VideoMedia() override;
 

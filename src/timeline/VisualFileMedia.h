@@ -1,6 +1,7 @@
 #pragma once
 // The file side of a picture media: the file and track that it shows, through a source or by a name of its own.
 #include <ZelmarMediaLib/datatypes/BoostNames.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Rect.h>
 #include <ZelmarMediaLib/datatypes/ZelmarObject.h>
 #include <ZelmarMediaLib/timeline/FileRepresentation.h>
@@ -15,7 +16,7 @@ class ThreadSafe;
 // Owned by a VMFile or an AbstractIMFile, which forward to it. With a source the names are
 // asked of the source's statistics each time, so that they follow the source to a new file;
 // without one the stored name stands for both.
-class VisualFileMedia : public virtual ZelmarObject, public FileRepresentation {
+class ZML_EXPORT VisualFileMedia : public virtual ZelmarObject, public FileRepresentation {
 public:
     VisualFileMedia(weak_ptr<ThreadSafe const> project, shared_ptr<Source const> source, unsigned int track);
     // The rectangle is not kept: an owner that needs the size keeps it itself.

@@ -1,5 +1,6 @@
 #pragma once
 // A media with a picture: placed by a transform, cropped at its source and its geometry, with an opacity.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Rect.h>
 #include <ZelmarMediaLib/datatypes/TransformMatrix.h>
 #include <ZelmarMediaLib/parameters/Transformer.h>
@@ -11,7 +12,7 @@ class VectorParam;
 template <class T>
 class InterpolatingParam;
 
-class VisualMedia : public MediaImpl, public Transformer {
+class ZML_EXPORT VisualMedia : public MediaImpl, public Transformer {
 public:
     ~VisualMedia() override;
 

@@ -1,5 +1,6 @@
 #pragma once
 // The stack of visual tracks, and the scene's camera: eye, look-at point, up vector, field of view, clip distances.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Rect.h>
 #include <ZelmarMediaLib/datatypes/TransformMatrix.h>
 #include <ZelmarMediaLib/parameters/Transformer.h>
@@ -17,7 +18,7 @@ class VectorParam;
 
 // The Transformer side acts on the mixer as a whole; its parameters are not among the 12
 // camera parameters.
-class VisualMixer : public Mixer, public Transformer {
+class ZML_EXPORT VisualMixer : public Mixer, public Transformer {
 public:
     // The camera starts at (0, 0, 3000) looking at the origin with y up, with a field of
     // view at which a picture of the mixer's height at the look-at plane fills the view.

@@ -1,10 +1,11 @@
 #pragma once
 // The track for everything that is seen: video, stills, picture transitions and annotations.
+#include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/timeline/AbstractVisualTrack.h>
 
 namespace ZelmarMediaLib {
 
-class VisualTrack : public AbstractVisualTrack {
+class ZML_EXPORT VisualTrack : public AbstractVisualTrack {
 public:
     // Takes a media through its dispatch for one addMedia call; refuses both audio kinds
     // with TypeException.

@@ -1,8 +1,11 @@
 // The default loader on real files: every fixture's tracks, the streams that are no tracks,
-// recording folders, and files that are missing, truncated, garbage or without a usable stream.
+// recording folders, files that are missing, truncated, garbage or without a usable stream, and
+// hostile files that would make FFmpeg open other files or block.
 #include <ZelmarMediaLib/clipbin/AVFormatStatsLoader.h>
 #include <ZelmarMediaLib/clipbin/MediaFileStats.h>
 #include <ZelmarMediaLib/exceptions/IOException.h>
+
+#include "support/BackgroundTask.h"
 
 #include <boost/filesystem.hpp>
 
@@ -11,10 +14,15 @@
 #include <cstdint>
 #include <fstream>
 #include <iterator>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include <sys/stat.h>
+
+extern "C" {
+#include <libavutil/log.h>
+}
 
 namespace ZelmarMediaLib {
 namespace {
@@ -74,6 +82,22 @@ std::string wav(std::uint16_t formatTag, std::uint16_t channels, std::uint32_t s
     return bytes + std::string(600, '\0');
 }
 
+// The movie with a quarter turn in its first track header's display matrix, as phones record
+// upright video: the picture is stored landscape and shown portrait.
+std::string turnedAQuarter(std::string bytes) {
+    std::size_t const box = bytes.find("tkhd") - 4;
+    // Size, type, version and flags, then times, track, duration and reserved fields whose
+    // width depends on the version, then layer, group, volume and reserved: the matrix.
+    std::size_t const matrix = box + (bytes[box + 8] == 1 ? 60 : 48);
+    std::int32_t const quarter[9] = {0, 0x10000, 0, -0x10000, 0, 0, 0, 0, 0x40000000};
+    for (std::size_t i = 0; i < 9; ++i) {
+        std::uint32_t const value = static_cast<std::uint32_t>(quarter[i]);
+        for (std::size_t b = 0; b < 4; ++b)
+            bytes[matrix + 4 * i + b] = static_cast<char>((value >> (24 - 8 * b)) & 0xff);
+    }
+    return bytes;
+}
+
 class AVFormatStatsLoaderTest : public ::testing::Test {
 protected:
     void SetUp() override { fs::create_directory(dir); }
@@ -114,11 +138,12 @@ protected:
     fs::path const dir = fs::temp_directory_path() / fs::unique_path("zml-stats-%%%%%%%%");
 };
 
-TEST_F(AVFormatStatsLoaderTest, VideoWithStereoAudio) {
+TEST_F(AVFormatStatsLoaderTest, VideoWithStereoAudioWhoseLossyCodecHasNoBitDepth) {
     shared_ptr<MediaFileStats> stats = load(media + "/video-audio.mp4");
+    // Fault pinned: AAC was given 32 bits, the width of its decoder's float samples.
     expectTracks(*stats, Rect<int>(0, 0, 64, 48),
                  {{MediaFileStats::Video, {0, 10240}, 10240, 64, 48, 0, 0, 0},
-                  {MediaFileStats::Audio, {0, 44100}, 44100, 0, 0, 44100, 32, 2}});
+                  {MediaFileStats::Audio, {0, 44100}, 44100, 0, 0, 44100, 0, 2}});
     EXPECT_EQ("", stats->filename(0)) << "a plain file is no bundle";
     EXPECT_TRUE(stats->metaData(0).empty());
 }
@@ -145,7 +170,7 @@ TEST_F(AVFormatStatsLoaderTest, SubtitleTimecodeAndCoverStreamsAreNoTracks) {
     // Streams: video, subtitles, audio, two timecodes, a cover picture.
     expectTracks(*load(media + "/extra-streams.mp4"), Rect<int>(0, 0, 48, 32),
                  {{MediaFileStats::Video, {0, 10240}, 10240, 48, 32, 0, 0, 0},
-                  {MediaFileStats::Audio, {0, 16000}, 16000, 0, 0, 16000, 32, 1}});
+                  {MediaFileStats::Audio, {0, 16000}, 16000, 0, 0, 16000, 0, 1}});
 }
 
 TEST_F(AVFormatStatsLoaderTest, RecordingFolderIsABundleOfItsMovieWithTheSideFilesFound) {
@@ -153,7 +178,7 @@ TEST_F(AVFormatStatsLoaderTest, RecordingFolderIsABundleOfItsMovieWithTheSideFil
     shared_ptr<MediaFileStats> stats = load(folder);
     expectTracks(*stats, Rect<int>(0, 0, 64, 48),
                  {{MediaFileStats::Video, {0, 10240}, 10240, 64, 48, 0, 0, 0},
-                  {MediaFileStats::Audio, {0, 44100}, 44100, 0, 0, 44100, 32, 1}});
+                  {MediaFileStats::Audio, {0, 44100}, 44100, 0, 0, 44100, 0, 1}});
     EXPECT_EQ(movie, stats->filename(0));
     EXPECT_EQ(movie, stats->filename(1));
     EXPECT_EQ(std::vector<std::string>({folder + "/dirtyrect.dat", folder + "/frontmost.dat",
@@ -199,9 +224,9 @@ TEST_F(AVFormatStatsLoaderTest, TruncatedGarbageAndEmptyFilesAreRefused) {
         EXPECT_FALSE(loader.canOpenFile(path)) << path;
         expectRefused(path, "Unable to initialize file: ");
     }
-    // Picture demuxers open any file by its name, but nothing can be decoded from these.
+    // Pictures are recognised by their content, not by a name ending in ".png".
+    expectRefused(write("noise.png", std::string(512, '\x5a')), "Unable to initialize file: ");
     expectRefused(write("cut.png", fixtureBytes("still.png", 100)), "No track information read from ");
-    expectRefused(write("noise.png", std::string(512, '\x5a')), "No track information read from ");
 }
 
 TEST_F(AVFormatStatsLoaderTest, FilesWithoutUsableStreamsAreRefused) {
@@ -219,6 +244,60 @@ TEST_F(AVFormatStatsLoaderTest, NamedPipesAndUrlsAreNeitherOpenedNorFetched) {
     std::string const movie = media + "/video-audio.mp4";
     EXPECT_FALSE(loader.canOpenFile("concat:" + movie + "|" + movie));
     EXPECT_FALSE(loader.canOpenFile("file:" + movie));
+}
+
+TEST_F(AVFormatStatsLoaderTest, PictureTurnedAQuarterByItsDisplayMatrixIsReportedUpright) {
+    // Fault pinned: a phone's portrait video was reported landscape, its display matrix ignored.
+    expectTracks(*load(write("portrait.mp4", turnedAQuarter(fixtureBytes("video-audio.mp4")))),
+                 Rect<int>(0, 0, 48, 64),
+                 {{MediaFileStats::Video, {0, 10240}, 10240, 48, 64, 0, 0, 0},
+                  {MediaFileStats::Audio, {0, 44100}, 44100, 0, 0, 44100, 0, 2}});
+}
+
+TEST_F(AVFormatStatsLoaderTest, HostApplicationsFFmpegLogLevelIsLeftAlone) {
+    // Fault pinned: the first load silenced FFmpeg for the whole process. Nothing in these tests
+    // sets the level, so it must still be FFmpeg's default after loads that succeed and fail.
+    load(media + "/video-audio.mp4");
+    expectRefused(write("noise.mp4", std::string(4096, '\x5a')), "Unable to initialize file: ");
+    EXPECT_EQ(AV_LOG_INFO, av_log_get_level());
+}
+
+// Faults pinned: a self-referencing playlist made the load run for ever with memory growing
+// without bound; a playlist or file list naming a FIFO, or a FIFO itself, blocked for ever; a
+// self-referencing file list took ten seconds; "a%d.png" was read as the sequence "a1.png", ...
+TEST_F(AVFormatStatsLoaderTest, HostileFilesAreRefusedAtOnceWithTheirReason) {
+    std::string const fifo = (dir / "pipe.ts").string();
+    ASSERT_EQ(0, ::mkfifo(fifo.c_str(), 0600));
+    ASSERT_EQ(0, ::mkfifo((dir / "pipe.sub").string().c_str(), 0600));
+    write("a1.png", fixtureBytes("still.png"));
+    std::string const playlist = "#EXTM3U\n#EXT-X-TARGETDURATION:1\n#EXTINF:1,\n";
+    std::string const notOpened = " (a list of other media, which are not opened: ";
+    struct Case {
+        std::string path;
+        std::string reason;
+    } const cases[] = {
+        {write("loop.m3u8", playlist + "loop.m3u8\n"), notOpened + "hls)"},
+        {write("pipe.m3u8", playlist + "pipe.ts\n"), notOpened + "hls)"},
+        {write("loop.ffconcat", "ffconcat version 1.0\nfile loop.ffconcat\n"), notOpened + "concat)"},
+        {write("pipe.ffconcat", "ffconcat version 1.0\nfile pipe.ts\n"), notOpened + "concat)"},
+        {write("pipe.idx", "# VobSub index file, v7 (do not modify this line!)\n"), notOpened + "vobsub)"},
+        {write("a%d.png", "not a picture, unlike a1.png"), ""},
+        {fifo, " (not a regular file)"},
+    };
+    for (Case const& hostile : cases) {
+        // Shared with the task, which a hanging load would leave running after the test.
+        shared_ptr<std::string> const outcome = boost::make_shared<std::string>("loaded");
+        test::BackgroundTask task([path = hostile.path, outcome] {
+            try {
+                MediaFileStats::create(path);
+            } catch (IOException const& error) {
+                *outcome = error.what();
+            }
+        });
+        ASSERT_TRUE(task.finishedWithin(test::finishLimit)) << "still loading " << hostile.path;
+        EXPECT_EQ("IOException: No appropriate stats loader for file: " + hostile.path + hostile.reason, *outcome);
+        EXPECT_FALSE(loader.canOpenFile(hostile.path)) << hostile.path;
+    }
 }
 
 }  // namespace

@@ -10,9 +10,12 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <functional>
 #include <sstream>
+#include <thread>
 #include <utility>
+#include <vector>
 
 namespace ZelmarMediaLib {
 namespace {
@@ -59,6 +62,27 @@ ClaimingLoader* claimingLoaders() {
     }();
     static_cast<void>(registered);
     return loaders;
+}
+
+// The component files of bundles: "component:" paths, each a video and two audio tracks,
+// with a count of the reads.
+class ComponentLoader : public StatsLoader {
+public:
+    bool canOpenFile(std::string const& path) override { return path.compare(0, 10, "component:") == 0; }
+    void loadStats(std::string const& path, MediaFileStats* stats) override {
+        ++reads;
+        stats->setFilename(path);
+        for (MediaFileStats::TrackType type : {MediaFileStats::Video, MediaFileStats::Audio, MediaFileStats::Audio})
+            stats->addTrackStats(track(type));
+    }
+    std::atomic<int> reads{0};
+};
+
+ComponentLoader& componentLoader() {
+    static ComponentLoader loader;
+    static bool const registered = (MediaFileStats::addStatsLoader(&loader), true);
+    static_cast<void>(registered);
+    return loader;
 }
 
 TEST(MediaFileStatsTest, StatsBuiltByHandNeedNoFile) {
@@ -148,6 +172,30 @@ TEST(MediaFileStatsTest, InsideABundleTheFileTrackNumberIsFoundInTheComponentFil
     EXPECT_THROW(stats->fileTrackNumberForTrackNumber(4), IOException);
 }
 
+TEST(MediaFileStatsTest, EachComponentFileIsReadOnceWhateverTheThreadsAsking) {
+    // Fault pinned: every call read the component file again, some 50 ms each time.
+    ComponentLoader& loader = componentLoader();
+    shared_ptr<MediaFileStats> stats = MediaFileStats::create();
+    for (std::string const file : {"component:a", "component:b", "component:a", "component:a"})
+        stats->addTrackStats(track(file == "component:b" ? MediaFileStats::Video : MediaFileStats::Audio, file));
+    int const readsBefore = loader.reads;
+    std::vector<std::thread> readers;
+    std::vector<unsigned int> numbers(8 * stats->numTracks());
+    for (unsigned int reader = 0; reader < 8; ++reader) {
+        readers.emplace_back([&, reader] {
+            for (unsigned int t = 0; t < stats->numTracks(); ++t)
+                numbers[reader * stats->numTracks() + t] = stats->fileTrackNumberForTrackNumber(t);
+        });
+    }
+    for (std::thread& reader : readers)
+        reader.join();
+    EXPECT_EQ(readsBefore + 2, loader.reads) << "once for a, once for b";
+    for (unsigned int reader = 0; reader < 8; ++reader) {
+        EXPECT_EQ(std::vector<unsigned int>({1, 0, 2, 3}),
+                  std::vector<unsigned int>(numbers.begin() + reader * 4, numbers.begin() + reader * 4 + 4));
+    }
+}
+
 TEST(MediaFileStatsTest, LastOfSeveralAbleLoadersInAddressOrderLoadsAfterAllWereAsked) {
     ClaimingLoader* loaders = claimingLoaders();
     int const askedBefore = loaders[0].asked;
@@ -167,7 +215,7 @@ TEST(MediaFileStatsTest, FailedLoadsRaiseAndLeaveNoObject) {
         MediaFileStats::create("unclaimed:x");
         ADD_FAILURE() << "no exception";
     } catch (IOException const& error) {
-        EXPECT_STREQ("IOException: No appropriate stats loader for file: unclaimed:x", error.what());
+        EXPECT_STREQ("IOException: No appropriate stats loader for file: unclaimed:x (no such file)", error.what());
     }
     EXPECT_THROW(MediaFileStats::addStatsLoader(nullptr), ZelmarMediaLibException);
 }

@@ -1,7 +1,7 @@
 // Screen meta data: which side file is which, lazy loading through the application's loader,
 // where relative side files are looked for, and how the four files are written.
 #include <ZelmarMediaLib/clipbin/ScreenMetaData.h>
-#include <ZelmarMediaLib/clipbin/ScreenMetaDataImpl.h>
+#include <ZelmarMediaLib/clipbin/detail/ScreenMetaDataImpl.h>
 #include <ZelmarMediaLib/clipbin/ScreenMetaDataLoader.h>
 #include <ZelmarMediaLib/clipbin/Source.h>
 #include <ZelmarMediaLib/exceptions/DanglingWeakPtrException.h>

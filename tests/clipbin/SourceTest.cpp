@@ -25,6 +25,7 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -134,6 +135,24 @@ TEST_F(SourceTest, RateConversionMultipliesFirstAndTruncatesTowardZero) {
                                         "attempting to convert a range from an edit rate of zero");
 }
 
+TEST_F(SourceTest, RateConversionIsExactWhereTheProductExceedsSixtyFourBits) {
+    // Fault pinned: a long duration times 30000 overflowed, and the source got a wrong range or none.
+    long long const distant = 400000000000000000LL;
+    Rect<int> const rect(0, 0, 64, 48);
+    rational<unsigned long> const ntsc(30000, 1001);
+    EXPECT_EQ(Range<long long>(-11988011988011988LL, 11988011988011988LL),
+              Source::convertEditRate(Range<long long>(-distant, distant), 1000, ntsc));
+    EXPECT_EQ(Range<long long>(0, 12000000000000000LL),
+              make(test::stats("/long.mkv", rect, {test::videoTrack(Range<long long>(0, distant), 1000)}))->timeRange());
+    // Past 2^62 units the file is refused rather than given a range that wraps.
+    std::string const tooLong = "attempting to convert a range too long for the project's edit rate";
+    expectText<ZelmarMediaLibException>(
+        [&] { make(test::stats("/endless.mkv", rect, {test::videoTrack(Range<long long>(0, LLONG_MAX), 1)})); },
+        tooLong);
+    expectText<ZelmarMediaLibException>(
+        [&] { Source::convertEditRate(Range<long long>(LLONG_MAX / 60, LLONG_MAX / 60), 1, 30); }, tooLong);
+}
+
 TEST_F(SourceTest, StillIsOneUnitLongWhateverItsTrackSays) {
     // One unit at 1000 a second is no whole unit at 30 a second.
     shared_ptr<Source> source =
@@ -210,10 +229,11 @@ TEST_F(SourceTest, StatisticsWithoutACommonSpanMakeNoSource) {
 TEST_F(SourceTest, UnreadableFilesMakeNoSource) {
     fs::create_directories(dir);
     std::ofstream(dir / "noise.mov") << std::string(2048, '\x5a');
-    for (std::string const& path : {(dir / "missing.mov").string(), (dir / "noise.mov").string(), dir.string()}) {
-        SCOPED_TRACE(path);
-        expectText<IOException>([&] { load(path); }, "IOException: No appropriate stats loader for file: " + path);
-    }
+    std::string const noLoader = "IOException: No appropriate stats loader for file: ";
+    expectText<IOException>([&] { load((dir / "missing.mov").string()); },
+                            noLoader + (dir / "missing.mov").string() + " (no such file)");
+    expectText<IOException>([&] { load((dir / "noise.mov").string()); }, noLoader + (dir / "noise.mov").string());
+    expectText<IOException>([&] { load(dir.string()); }, noLoader + dir.string() + " (a folder without a movie)");
 }
 
 TEST_F(SourceTest, RealMovieGivesAVideoAndAStereoAudioMedia) {
@@ -324,18 +344,26 @@ TEST_F(SourceTest, IncompatibleOrUnreadableNewFileLeavesTheSourceAsItWas) {
     shared_ptr<Source> sound =
         make(test::stats("/old/sound.wav", Rect<int>(), {test::audioTrack(Range<long long>(0, 1000), 1000, 1)}));
     shared_ptr<Source> pair = make(test::talkStats("/old/talk.mov"));
-    std::string const shorterXml = xml(*shorter), soundXml = xml(*sound), pairXml = xml(*pair);
+    // Fault pinned: duration times rate overflowed 64 bits and, wrapped, equalled the file's
+    // 1000 * 1000, so a file of another length was taken as compatible.
+    shared_ptr<Source> huge =
+        make(test::stats("/old/huge.mkv", Rect<int>(0, 0, 64, 48),
+                         {test::videoTrack(Range<long long>(0, 9010191179345071424LL), 1000000005)}));
+    std::string const shorterXml = xml(*shorter), soundXml = xml(*sound), pairXml = xml(*pair), hugeXml = xml(*huge);
     test::CountingObserver observer;
     shorter->attach(&observer);
 
     expectText<ZelmarMediaLibException>([&] { shorter->changeFile(media + "/video-only.mkv"); }, incompatible);
     expectText<ZelmarMediaLibException>([&] { sound->changeFile(media + "/video-only.mkv"); }, incompatible);
     expectText<ZelmarMediaLibException>([&] { pair->changeFile(media + "/video-only.mkv"); }, incompatible);
-    expectText<IOException>([&] { shorter->changeFile(media + "/missing.mkv"); },
-                            "IOException: No appropriate stats loader for file: " + media + "/missing.mkv");
+    expectText<ZelmarMediaLibException>([&] { huge->changeFile(media + "/video-only.mkv"); }, incompatible);
+    expectText<IOException>(
+        [&] { shorter->changeFile(media + "/missing.mkv"); },
+        "IOException: No appropriate stats loader for file: " + media + "/missing.mkv (no such file)");
     EXPECT_EQ(shorterXml, xml(*shorter));
     EXPECT_EQ(soundXml, xml(*sound));
     EXPECT_EQ(pairXml, xml(*pair));
+    EXPECT_EQ(hugeXml, xml(*huge));
     EXPECT_EQ(0, observer.calls);
     shorter->detach(&observer);
 }

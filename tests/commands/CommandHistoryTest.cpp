@@ -18,6 +18,23 @@ namespace {
 using test::Log;
 using test::RecordingCommand;
 
+// Its combine refuses, whatever comes after it.
+class Uncombinable : public Command {
+public:
+    static shared_ptr<Uncombinable> create() { return shared_ptr<Uncombinable>(new Uncombinable); }
+    Uncombinable* clone() const override { return new Uncombinable(*this); }
+    bool execute(CommandHandler*) override { return true; }
+    bool unexecute(CommandHandler*) override { return true; }
+    shared_ptr<Command> combine(shared_ptr<Command>) override { throw ZelmarMediaLibException("no combining"); }
+    void xmlName(XMLable::Options& options) const override { *options.stream << "Uncombinable"; }
+    void xmlAttributes(XMLable::Options&) const override {}
+    void xmlBody(XMLable::Options&, int) const override {}
+
+private:
+    Uncombinable() = default;
+    Uncombinable(Uncombinable const&) = default;
+};
+
 class CommandHistoryTest : public ::testing::Test {
 protected:
     CommandHistory history{nullptr};
@@ -99,12 +116,24 @@ TEST_F(CommandHistoryTest, EmptyStacksRefuseWithTheirTexts) {
     }
 }
 
-TEST_F(CommandHistoryTest, CommandWhoseUndoFailsIsOnNeitherStack) {
+// Regression: a command left its stack before it ran, so one whose undo or redo raised was on
+// neither stack afterwards, and the history lost an edit.
+TEST_F(CommandHistoryTest, CommandWhoseUndoOrRedoFailsStaysWhereItWas) {
+    run("a");
     shared_ptr<RecordingCommand> stubborn = run("stubborn");
     stubborn->unexecuteFailure = RecordingCommand::libraryError;
+    std::string const before = history.description();
+    int const callsBefore = observer.calls;
     EXPECT_THROW(history.undo(), ZelmarMediaLibException);
-    EXPECT_TRUE(history.undoStack().empty());
-    EXPECT_TRUE(history.redoStack().empty());
+    EXPECT_EQ(before, history.description());
+    EXPECT_EQ(callsBefore, observer.calls);
+
+    stubborn->unexecuteFailure = RecordingCommand::none;
+    history.undo();
+    stubborn->executeFailure = RecordingCommand::foreignError;
+    EXPECT_THROW(history.redo(), std::runtime_error);
+    EXPECT_EQ(Names({"a"}), names(history.undoStack()));
+    EXPECT_EQ(Names({"stubborn"}), names(history.redoStack()));
 }
 
 TEST_F(CommandHistoryTest, UndoLimitDropsFromTheBottomButRedoMayExceedIt) {
@@ -163,6 +192,35 @@ TEST_F(CommandHistoryTest, CombineMergesTheTopTwoIntoAPairWithoutRunningThem) {
     EXPECT_EQ("c", dynamic_pointer_cast<RecordingCommand>(pair->second())->name);
     EXPECT_EQ(Log({"execute a", "execute b", "execute c"}), log);
     EXPECT_EQ(callsBefore, observer.calls);
+}
+
+// Regression: combining took both commands off the stack first, so a combine that raised
+// lost them.
+TEST_F(CommandHistoryTest, CombineThatFailsKeepsBothCommands) {
+    run("a");
+    history.execute(Uncombinable::create());
+    run("b");
+    std::string const before = history.description();
+    EXPECT_THROW(history.combineLastCommands(), ZelmarMediaLibException);
+    EXPECT_EQ(before, history.description());
+}
+
+// Regression: restoring took each command off before undoing it, so one that raised vanished.
+// The commands undone before it stay undone and go to the redo stack, as undo() puts them.
+TEST_F(CommandHistoryTest, RestoreThatFailsHalfWayKeepsTheStacksInStepWithTheModel) {
+    run("a");
+    CommandHistoryState const state = history.state();
+    shared_ptr<RecordingCommand> stubborn = run("stubborn");
+    run("c");
+    stubborn->unexecuteFailure = RecordingCommand::libraryError;
+    EXPECT_THROW(history.restoreState(state), ZelmarMediaLibException);
+    EXPECT_EQ(Names({"a", "stubborn"}), names(history.undoStack()));
+    EXPECT_EQ(Names({"c"}), names(history.redoStack()));
+
+    stubborn->unexecuteFailure = RecordingCommand::none;
+    history.restoreState(state);
+    EXPECT_EQ(Names({"a"}), names(history.undoStack()));
+    EXPECT_TRUE(history.redoStack().empty());
 }
 
 TEST_F(CommandHistoryTest, RestoringATakenStateUndoesLaterCommandsAndRestoresItsRedoStack) {

@@ -6,6 +6,7 @@
 #include <ZelmarMediaLib/commands/NullCmd.h>
 
 #include "support/RecordingCommand.h"
+#include "support/StubCommandHandler.h"
 #include "support/XmlCheck.h"
 
 #include <gtest/gtest.h>
@@ -18,7 +19,7 @@ namespace {
 using test::Log;
 using test::RecordingCommand;
 
-class Handler : public CommandHandler {};
+typedef test::StubCommandHandler Handler;
 
 // Runs its parts in order; the parts are prepared by the test.
 class ScriptedCmd : public MultiCommand {
@@ -117,17 +118,49 @@ TEST_F(CompositeCommandTest, PairUndoesSecondFirstAndRedoesFirstFirst) {
     EXPECT_EQ(Log({"execute a", "execute b", "unexecute b", "unexecute a", "reexecute a", "reexecute b"}), log);
 }
 
-TEST_F(CompositeCommandTest, PairRollsBackTheFirstWhenTheSecondFailsWithALibraryError) {
+// Regression: only the library's own failures rolled back, so a std::runtime_error (or a
+// bad_alloc) from the second half left the first half done.
+TEST_F(CompositeCommandTest, PairRollsBackTheFirstWhateverTheSecondThrows) {
     shared_ptr<RecordingCommand> broken = part("b");
     broken->executeFailure = RecordingCommand::libraryError;
     EXPECT_THROW(history.execute(CommandPair::create(part("a"), broken)), ZelmarMediaLibException);
     EXPECT_EQ(Log({"execute a", "execute b", "unexecute a"}), log);
-    EXPECT_TRUE(history.undoStack().empty());
 
     log.clear();
     broken->executeFailure = RecordingCommand::foreignError;
     EXPECT_THROW(history.execute(CommandPair::create(part("a"), broken)), std::runtime_error);
-    EXPECT_EQ(Log({"execute a", "execute b"}), log) << "only the library's own failures roll back";
+    EXPECT_EQ(Log({"execute a", "execute b", "unexecute a"}), log);
+    EXPECT_TRUE(history.undoStack().empty());
+}
+
+// Regression, with the history keeping a command whose undo or redo fails: the command must
+// then also leave the model as it was, or a retry would repeat what half of it did.
+TEST_F(CompositeCommandTest, FailedUndoOrRedoOfACompositeLeavesItsPartsAsTheyWere) {
+    shared_ptr<RecordingCommand> first = part("a");
+    history.execute(CommandPair::create(first, part("b")));
+    first->unexecuteFailure = RecordingCommand::foreignError;
+    log.clear();
+    EXPECT_THROW(history.undo(), std::runtime_error);
+    EXPECT_EQ(Log({"unexecute b", "unexecute a", "reexecute b"}), log);
+    EXPECT_EQ(1u, history.undoStack().size());
+
+    shared_ptr<RecordingCommand> bottom = part("c"), top = part("e");
+    shared_ptr<ScriptedCmd> multi = ScriptedCmd::create({bottom, part("d"), top});
+    history.execute(multi);
+    bottom->unexecuteFailure = RecordingCommand::foreignError;
+    log.clear();
+    EXPECT_THROW(history.undo(), std::runtime_error);
+    EXPECT_EQ(Log({"unexecute e", "unexecute d", "unexecute c", "reexecute d", "reexecute e"}), log);
+    EXPECT_EQ(3, multi->numUndoCommands());
+
+    bottom->unexecuteFailure = RecordingCommand::none;
+    history.undo();
+    top->executeFailure = RecordingCommand::foreignError;
+    log.clear();
+    EXPECT_THROW(history.redo(), std::runtime_error);
+    EXPECT_EQ(Log({"reexecute c", "reexecute d", "reexecute e", "unexecute d", "unexecute c"}), log);
+    EXPECT_EQ(0, multi->numUndoCommands());
+    EXPECT_EQ(1u, history.redoStack().size());
 }
 
 TEST_F(CompositeCommandTest, PairRedoRollsBackTheFirstWhenTheSecondFails) {

@@ -32,13 +32,17 @@ TEST(ExceptionTextTest, PrefixedAndComposedTexts) {
     EXPECT_STREQ("VisualTrack", TypeException("VisualTrack").what());
 }
 
-TEST(ExceptionTextTest, ParserTextIsComposedOnEachCallAndStaysValid) {
+// Regression: what() rebuilt its text on each call, so the pointer from an earlier call dangled.
+TEST(ExceptionTextTest, ParserTextIsComposedOnceAndEarlierPointersStayValid) {
     ParserException error("bad tag", 3, 7);
-    char const* text = error.what();
-    EXPECT_STREQ("bad tag line:3 col:7", text);
-    EXPECT_STREQ("bad tag line:3 col:7", error.what());
-    EXPECT_EQ(3, error.line());
-    EXPECT_EQ(7, error.column());
+    char const* first = error.what();
+    char const* second = error.what();
+    EXPECT_EQ(first, second);
+    EXPECT_STREQ("bad tag line:3 col:7", first);
+    ParserException const copy(error);
+    EXPECT_STREQ("bad tag line:3 col:7", copy.what());
+    EXPECT_EQ(3, copy.line());
+    EXPECT_EQ(7, copy.column());
 }
 
 TEST(ExceptionTextTest, EveryMemberDerivesDirectlyFromTheRoot) {

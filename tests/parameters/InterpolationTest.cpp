@@ -85,6 +85,27 @@ TEST_F(InterpolationTest, LaneKeyframesSwitchTheInterpolaterFromTheirTimeOn) {
     EXPECT_EQ(0.0, volume->valueAtTime(75.0));
 }
 
+// An application's own interpolater, written against the documented signature.
+class MidpointInterpolater : public Interpolater<double> {
+public:
+    MidpointInterpolater() : Interpolater<double>("mid") {}
+
+protected:
+    double doInterpolate(double left, double right, double) const override { return (left + right) / 2.0; }
+};
+
+// Regression: doInterpolate took its ends by const reference, so an override with the
+// documented signature, by value and const, did not override anything.
+TEST_F(InterpolationTest, ApplicationInterpolaterOverridingDoInterpolateIsUsedByTheParameter) {
+    shared_ptr<InterpolatingParam<double> > volume = boost::make_shared<InterpolatingParam<double> >(project, "volume");
+    volume->addKeyFrame(0, 0.0);
+    volume->addKeyFrame(100, 100.0);
+    volume->interpolaterParam()->addKeyFrame(50, shared_ptr<Interpolater<double> >(new MidpointInterpolater));
+    EXPECT_DOUBLE_EQ(25.0, volume->valueAtTime(25.0));
+    EXPECT_EQ(50.0, volume->valueAtTime(60.0));
+    EXPECT_EQ("mid", volume->interpolaterAtTime(60.0)->name());
+}
+
 TEST_F(InterpolationTest, SharedInstanceIsMadeOnceWhenFirstUsedOnSeveralThreads) {
     std::vector<Interpolater<Point>*> seen(8);
     std::vector<std::thread> threads;

@@ -13,12 +13,13 @@
 #include <ZelmarMediaLib/datatypes/ReadWriteMutex.h>
 #include <ZelmarMediaLib/exceptions/ValueException.h>
 #include <ZelmarMediaLib/project/CommandObserver.h>
-#include <ZelmarMediaLib/project/InternalProject.h>
+#include <ZelmarMediaLib/project/detail/InternalProject.h>
 #include <ZelmarMediaLib/timeline/Timeline.h>
 
 #include "support/CountingObserver.h"
 #include "support/HandBuiltStats.h"
 #include "support/RecordingCommand.h"
+#include "support/StubCommandHandler.h"
 #include "support/XmlCheck.h"
 
 #include <gtest/gtest.h>
@@ -175,7 +176,7 @@ TEST_F(ProjectTest, RestoreOfAForeignStateRaisesAndChangesNothing) {
 }
 
 TEST_F(ProjectTest, HandlerCanBeReplaced) {
-    class OtherHandler : public CommandHandler {} other;
+    test::StubCommandHandler other;
     auto internal = dynamic_pointer_cast<InternalProject>(project);
     internal->setCommandHandler(&other);
     shared_ptr<RecordingCommand> probe = command("probe");

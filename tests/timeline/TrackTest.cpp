@@ -7,6 +7,7 @@
 #include <ZelmarMediaLib/project/Project.h>
 #include <ZelmarMediaLib/timeline/AMFile.h>
 #include <ZelmarMediaLib/timeline/AudioTrack.h>
+#include <ZelmarMediaLib/timeline/AudioTransition.h>
 
 #include "support/CountingObserver.h"
 
@@ -159,29 +160,43 @@ TEST_F(TrackTest, AddIntoOccupiedTimeIsRefusedAndNamesEveryMediaInTheWay) {
     EXPECT_EQ(20, butted->trackRange().start);
 }
 
-TEST_F(TrackTest, AddOverwritesAMediaOfNoDurationAtTheSameStart) {
-    shared_ptr<AMFile> point = place(50, 0);
-    shared_ptr<AMFile> next = place(50, 10);
-    EXPECT_EQ(1, track->numMedias());
-    EXPECT_TRUE(track->hasMedia(next));
-    EXPECT_FALSE(track->hasMedia(point));
+// Regression: a media of no duration collides with nothing, so an add at another media's
+// start, or of a media at its start, overwrote that media's entry and orphaned it.
+TEST_F(TrackTest, AddAtTheStartOfAnotherMediaIsRefusedEvenWithoutOverlap) {
+    shared_ptr<AMFile> a = place(50, 10);
+    CollisionException const onTop = refusal<CollisionException>([&] { track->addMedia(audio(0), 50); }, {track});
+    EXPECT_EQ(listOf({a}), *onTop.medias());
+
+    shared_ptr<AMFile> point = place(80, 0);
+    CollisionException const under = refusal<CollisionException>([&] { track->addMedia(audio(10), 80); }, {track});
+    EXPECT_EQ(listOf({point}), *under.medias());
+    refusal<CollisionException>([&] { track->move(a, 30, false); }, {track});
+    place(60, 0);
+    expectTrack(*track, {{50, 10}, {60, 0}, {80, 0}});
 }
 
-// Kept as documented: the refusal comes only after the entry was made.
-TEST_F(TrackTest, AddOfAParentedMediaIsRefusedButLeavesItsEntry) {
+// Regression: a media of another track was refused only after its entry was made, and the
+// entry stayed behind.
+TEST_F(TrackTest, AddOfAMediaThatBelongsToAnotherTrackIsRefusedBeforeAnyChange) {
     shared_ptr<AMFile> media = place(0, 10);
     shared_ptr<AudioTrack> other = newTrack();
-    try {
-        other->addMedia(media, 50);
-        FAIL();
-    } catch (ValueException<shared_ptr<Media> > const& error) {
-        EXPECT_STREQ("trying to edit parented media like a parentless media", error.what());
-        EXPECT_EQ(media, error.value());
-    }
-    ASSERT_EQ(1u, other->medias().size());
-    EXPECT_EQ(media, other->medias().at(50));
+    ValueException<shared_ptr<Media> > const error =
+        refusal<ValueException<shared_ptr<Media> > >([&] { other->addMedia(media, 50); }, {track, other});
+    EXPECT_STREQ("trying to edit parented media like a parentless media", error.what());
+    EXPECT_EQ(media, error.value());
+    EXPECT_EQ(0, other->numMedias());
     EXPECT_EQ(track, media->parentTrack().lock());
-    EXPECT_EQ(0, media->trackRange().start);
+    refusal<ValueException<shared_ptr<Media> > >([&] { track->addMedia(media, 50); }, {track});
+}
+
+// Regression: nothing kept a media from being placed before time 0.
+TEST_F(TrackTest, AddBeforeTimeZeroIsRefused) {
+    shared_ptr<AMFile> media = audio(10);
+    ValueException<long long> const error =
+        refusal<ValueException<long long> >([&] { track->addMedia(media, -1); }, {track});
+    EXPECT_STREQ("invalid media start on track (start<0)", error.what());
+    EXPECT_EQ(-1, error.value());
+    EXPECT_TRUE(media->parentTrack().expired());
 }
 
 TEST_F(TrackTest, AddToATrackThatNoSharedPtrHoldsFailsBeforeAnyChange) {
@@ -225,16 +240,46 @@ TEST_F(TrackTest, TrimsAndStretchesRekeyOnlyWhenTheStartMoves) {
     refusal<CollisionException>([&] { track->trimEnd(a, -1, false); }, {track});
 }
 
-// Kept as documented: the stretch forecast multiplies the track duration, not the material
-// duration, by the wanted speed. Below real time it is too short, and the check lets an
-// overlap through.
-TEST_F(TrackTest, StretchBelowRealTimeIsCheckedAgainstAShortForecast) {
+// Regression: the stretch was checked with trackRangeWithStretch, which leaves the current
+// scalar out; after a stretch by 0.5 a stretch by 3 was forecast at half its real length
+// and overlapped the neighbour.
+TEST_F(TrackTest, CheckedStretchTestsTheRangeTheStretchWillReallyGive) {
     shared_ptr<AMFile> a = place(0, 10);
     track->stretch(a, 0.5, false);
-    place(8, 10);
-    EXPECT_EQ(Range<long long>(0, 5), a->trackRangeWithStretch(1.0));
-    track->stretch(a, 1.0, false);
-    expectTrack(*track, {{0, 10}, {8, 10}});
+    shared_ptr<AMFile> b = place(8, 10);
+    EXPECT_EQ(Range<long long>(0, 15), a->trackRangeWithStretch(3.0)) << "the forecast itself is kept";
+    CollisionException const error = refusal<CollisionException>([&] { track->stretch(a, 3.0, false); }, {track});
+    EXPECT_EQ(listOf({b}), *error.medias());
+    refusal<CollisionException>([&] { track->stretch(a, 1.0, false); }, {track});
+    EXPECT_EQ(0.8, track->stretch(a, 0.8, false));
+    expectTrack(*track, {{0, 8}, {8, 10}});
+}
+
+// Regression: a move or trim start before time 0 was accepted; a static media's trims were
+// not even kept from leaving it no duration.
+TEST_F(TrackTest, EditsThatLeaveTimeZeroOrAllDurationBehindAreRefused) {
+    shared_ptr<AMFile> a = place(5, 10);
+    ValueException<long long> const move =
+        refusal<ValueException<long long> >([&] { track->move(a, -6, false); }, {track});
+    EXPECT_STREQ("invalid media move offset (start<0)", move.what());
+    EXPECT_EQ(-6, move.value());
+    refusal<ValueException<long long> >([&] { track->moveSansCollision(a, -6, false); }, {track});
+
+    shared_ptr<AudioTransition> fade = boost::make_shared<AudioTransition>(10, shared_ptr<Effect const>(), project);
+    shared_ptr<AudioTrack> lane = newTrack();
+    lane->addMedia(fade, 20);
+    ValueException<long long> const start =
+        refusal<ValueException<long long> >([&] { lane->trimStart(fade, -21, false); }, {lane});
+    EXPECT_STREQ("invalid media trim start offset", start.what());
+    refusal<ValueException<long long> >([&] { lane->trimStart(fade, 10, false); }, {lane});
+    ValueException<long long> const end =
+        refusal<ValueException<long long> >([&] { lane->trimEnd(fade, 12, false); }, {lane});
+    EXPECT_STREQ("invalid media trim end offset", end.what());
+    refusal<ValueException<long long> >([&] { lane->trimEndSansCollision(fade, 10, false); }, {lane});
+    track->move(a, -5, false);
+    lane->trimStart(fade, -20, false);
+    expectTrack(*track, {{0, 10}});
+    expectTrack(*lane, {{0, 30}});
 }
 
 TEST_F(TrackTest, EditRefusedByTheMaterialLeavesTheTrackUnchanged) {
@@ -315,6 +360,32 @@ TEST_F(LinkedTrackTest, LinkedMediasWithUnequalRangesRaiseLinkException) {
     EXPECT_EQ(Range<long long>(0, 10), error.secondRange());
 }
 
+// Regression: a linked media whose material refused the trim, or whose own stretch would hit a
+// neighbour, was found out only on the walk over the links, after the main media had changed.
+TEST_F(LinkedTrackTest, CheckedLinkedEditsRefusedForALinkedMediaChangeNothing) {
+    shared_ptr<AMFile> tight = boost::make_shared<AMFile>(Range<long long>(1000, 10), 48000u, 16u, project, "/t.wav",
+                                                          998.0, 12.0, 0u, 0u);
+    shared_ptr<AudioTrack> fourth = newTrack();
+    fourth->addMedia(tight, 0);
+    track->move(a, 10, true);
+    fourth->move(tight, 10, false);
+    a->link(tight);
+    std::initializer_list<shared_ptr<Track> > const all = {track, second, third, fourth};
+    refusal<ValueException<long long> >([&] { track->trimStart(a, -5, true); }, all);
+    refusal<ValueException<long long> >([&] { track->trimEnd(a, -5, true); }, all);
+    refusal<ValueException<long long> >([&] { track->move(a, -11, true); }, all);
+
+    // At half speed the partner grows to 40 where the main media reaches 20.
+    shared_ptr<AudioTrack> fifth = newTrack();
+    shared_ptr<AMFile> slow = place(fifth, 10, 20);
+    fifth->stretch(slow, 0.5, false);
+    shared_ptr<AMFile> blocker = place(fifth, 35, 5);
+    a->link(slow);
+    CollisionException const error =
+        refusal<CollisionException>([&] { track->stretch(a, 2.0, true); }, {track, second, third, fourth, fifth});
+    EXPECT_EQ(listOf({blocker}), *error.medias());
+}
+
 // Kept as documented: a failure on the walk over the links is swallowed, and what was done stays.
 TEST_F(LinkedTrackTest, FirstFailureOnTheLinkedWalkEndsItSilently) {
     second->removeMedia(b, false);
@@ -355,6 +426,15 @@ TEST_F(TrackTest, RemoveTakesTheEntryAndClearsTheParent) {
     ValueException<shared_ptr<Media> > const error =
         refusal<ValueException<shared_ptr<Media> > >([&] { track->removeMedia(a, false); }, {track});
     EXPECT_STREQ("can't find media to remove", error.what());
+}
+
+// Regression: removal found the entry by start alone, so a media that the track doesn't hold
+// took out the one standing at its start.
+TEST_F(TrackTest, RemoveOfAMediaThatTheTrackDoesNotHoldIsRefused) {
+    place(0, 10);
+    shared_ptr<AMFile> stranger = audio(10);
+    refusal<ValueException<shared_ptr<Media> > >([&] { track->removeMedia(stranger, false); }, {track});
+    expectTrack(*track, {{0, 10}});
 }
 
 TEST_F(TrackTest, LinkedRemoveIsRefusedBeforeAnyChange) {

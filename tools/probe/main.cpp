@@ -4,6 +4,11 @@
 #include <ZelmarMediaLib/ZelmarMediaLib.h>
 
 #include <boost/filesystem/operations.hpp>
+#include <boost/filesystem/path.hpp>
+
+extern "C" {
+#include <libavutil/log.h>
+}
 
 #include <exception>
 #include <iostream>
@@ -16,7 +21,20 @@ namespace {
 
 char const* const program = "zml-probe";
 
-void printUsage(std::ostream& out) {
+// The sample is installed with the program and copied beside it in the build tree, at the same
+// place relative to it, so the program finds it wherever the prefix is. Linux names the running
+// program in /proc/self/exe; elsewhere argv[0] has to do.
+std::string sampleRecording(char const* argv0) {
+    boost::system::error_code error;
+    boost::filesystem::path program = boost::filesystem::read_symlink("/proc/self/exe", error);
+    if (error)
+        program = boost::filesystem::absolute(argv0);
+    boost::filesystem::path const sample = program.parent_path() / ZML_SAMPLE_FROM_BIN;
+    boost::filesystem::path const resolved = boost::filesystem::weakly_canonical(sample, error);
+    return (error ? sample.lexically_normal() : resolved).string();
+}
+
+void printUsage(std::ostream& out, std::string const& sample) {
     out << "Usage: " << program << " [--help] [--] [PATH...]\n"
         << "\n"
         << "Loads each PATH, a media file or a screen recording folder (one movie beside its\n"
@@ -29,7 +47,7 @@ void printUsage(std::ostream& out) {
         << "the set is valid. Each side file found is loaded through a small loader that reads\n"
         << "only the file's size, into a parameter with one keyframe.\n"
         << "\n"
-        << "With no PATH it probes the sample recording " << ZML_SAMPLE_RECORDING << ".\n"
+        << "With no PATH it probes the sample recording " << sample << ".\n"
         << "A path that can't be loaded gets one line on the standard error; the exit status is 1\n"
         << "if any path failed, 2 for a wrong option, and 0 otherwise.\n";
 }
@@ -103,7 +121,7 @@ int main(int argc, char** argv) {
     for (int i = 1; i < argc; ++i) {
         std::string const argument = argv[i];
         if (!optionsEnded && (argument == "--help" || argument == "-h")) {
-            printUsage(std::cout);
+            printUsage(std::cout, sampleRecording(argv[0]));
             return 0;
         }
         if (!optionsEnded && argument == "--") {
@@ -116,7 +134,11 @@ int main(int argc, char** argv) {
         }
     }
     if (paths.empty())
-        paths.push_back(ZML_SAMPLE_RECORDING);
+        paths.push_back(sampleRecording(argv[0]));
+
+    // The library leaves FFmpeg's process-wide log to the application. The probe reports each
+    // failure in one line of its own, so FFmpeg's remarks on the files it reads are unwanted.
+    av_log_set_level(AV_LOG_QUIET);
 
     int status = 0;
     try {

@@ -1,4 +1,4 @@
-#include <ZelmarMediaLib/datatypes/LinkCloneUtil.h>
+#include <ZelmarMediaLib/timeline/LinkCloneUtil.h>
 
 #include <ZelmarMediaLib/exceptions/DanglingWeakPtrException.h>
 #include <ZelmarMediaLib/timeline/Media.h>

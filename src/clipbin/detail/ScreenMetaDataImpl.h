@@ -1,13 +1,15 @@
 #pragma once
 // The screen meta data of one VMFile: four file names, and the values loaded from them so far.
 #include <ZelmarMediaLib/clipbin/ScreenMetaData.h>
+#include <ZelmarMediaLib/datatypes/Export.h>
 
 #include <mutex>
 #include <string>
 
 namespace ZelmarMediaLib {
 
-class ScreenMetaDataImpl : public ScreenMetaData {
+// Exported for the unit tests only: applications never name this class.
+class ZML_EXPORT ScreenMetaDataImpl : public ScreenMetaData {
 public:
     ScreenMetaDataImpl(weak_ptr<ThreadSafe const> project, weak_ptr<FileRepresentation const> parent,
                        weak_ptr<ProjectEditRate const> editRate);
