@@ -74,7 +74,17 @@
 #include <ZelmarMediaLib/edgemods/AuxEdgeModInfo.h>
 #include <ZelmarMediaLib/edgemods/EdgeModFunc.h>
 #include <ZelmarMediaLib/edgemods/EdgeModifiable.h>
+#include <ZelmarMediaLib/edgemods/EdgeModCloneUtil.h>
 #include <ZelmarMediaLib/edgemods/EdgeModification.h>
+#include <ZelmarMediaLib/edgemods/FadeInFunc.h>
+#include <ZelmarMediaLib/edgemods/FadeOutFunc.h>
+#include <ZelmarMediaLib/edgemods/LinearSlideInFunc.h>
+#include <ZelmarMediaLib/edgemods/MixerXSlideFuncUtil.h>
+#include <ZelmarMediaLib/edgemods/MixerXSlideInFunc.h>
+#include <ZelmarMediaLib/edgemods/MixerXSlideOutFunc.h>
+#include <ZelmarMediaLib/edgemods/MixerYSlideInFunc.h>
+#include <ZelmarMediaLib/edgemods/MixerYSlideOutFunc.h>
+#include <ZelmarMediaLib/edgemods/RotateFunc.h>
 
 #include <ZelmarMediaLib/timeline/AMFile.h>
 #include <ZelmarMediaLib/timeline/AbstractIMFile.h>
@@ -133,6 +143,16 @@
 #include <ZelmarMediaLib/commands/CommandPair.h>
 #include <ZelmarMediaLib/commands/MultiCommand.h>
 #include <ZelmarMediaLib/commands/NullCmd.h>
+#include <ZelmarMediaLib/commands/edgemods/AddEdgeModCmd.h>
+#include <ZelmarMediaLib/commands/edgemods/AddLeftEdgeModCmd.h>
+#include <ZelmarMediaLib/commands/edgemods/AddRightEdgeModCmd.h>
+#include <ZelmarMediaLib/commands/edgemods/DefaultEdgeModCommandHandler.h>
+#include <ZelmarMediaLib/commands/edgemods/EdgeModCloneCmd.h>
+#include <ZelmarMediaLib/commands/edgemods/EdgeModCommandHandler.h>
+#include <ZelmarMediaLib/commands/edgemods/MoveLeftEdgeModCmd.h>
+#include <ZelmarMediaLib/commands/edgemods/MoveRightEdgeModCmd.h>
+#include <ZelmarMediaLib/commands/edgemods/RemoveLeftEdgeModCmd.h>
+#include <ZelmarMediaLib/commands/edgemods/RemoveRightEdgeModCmd.h>
 #include <ZelmarMediaLib/commands/keyframes/AddParameterKeyFrameCmd.h>
 #include <ZelmarMediaLib/commands/keyframes/ChangeAllKeyFramesByDeltaCmd.h>
 #include <ZelmarMediaLib/commands/keyframes/ChangeParameterKeyFrameByDeltaCmd.h>

@@ -13,6 +13,7 @@ class AudioMixer;
 class AudioTrack;
 class Clipping;
 class Effect;
+class EdgeModCommandHandler;
 class Effectable;
 class ImageTrack;
 class Media;
@@ -86,6 +87,8 @@ public:
     virtual void unloadSource(shared_ptr<Source const> source) = 0;
     virtual void addClipping(shared_ptr<Clipping> clipping) = 0;
     virtual void removeClipping(shared_ptr<Clipping> clipping) = 0;
+    // Owned by the handler; the edge modification commands make their edits through it.
+    virtual EdgeModCommandHandler* edgeModCommandHandler() = 0;
 };
 
 }  // namespace ZelmarMediaLib

@@ -5,9 +5,9 @@
 
 namespace ZelmarMediaLib {
 
-Subject::Subject() : observers_(new ObserverList) {}
+Subject::Subject() = default;
 
-Subject::Subject(Subject const&) : Observable(), observers_(new ObserverList) {}
+Subject::Subject(Subject const&) : Observable() {}
 
 Subject& Subject::operator=(Subject const&) {
     return *this;
@@ -19,12 +19,12 @@ Subject::~Subject() {
 }
 
 void Subject::attach(Observer* observer) const {
-    observers_->attach(observer);
+    observers_.attach(observer);
 }
 
 void Subject::detach(Observer* observer) const {
-    if (observers_->isAttached(observer))
-        observers_->detach(observer);
+    if (observers_.isAttached(observer))
+        observers_.detach(observer);
 }
 
 void Subject::notify() const {
@@ -34,15 +34,15 @@ void Subject::notify() const {
         NotifyDelay::addObservable(this);
         return;
     }
-    observers_->notify();
+    observers_.notify();
 }
 
 bool Subject::isAttached(Observer* observer) const {
-    return observers_->isAttached(observer);
+    return observers_.isAttached(observer);
 }
 
 std::size_t Subject::numObservers() const {
-    return observers_->size();
+    return observers_.size();
 }
 
 Subject::NotifyDisabler Subject::disableNotifies() const {

@@ -2,12 +2,12 @@
 // An observable model object whose notifications can be disabled, or held back by a NotifyDelay.
 #include <ZelmarMediaLib/datatypes/Export.h>
 #include <ZelmarMediaLib/datatypes/Observer.h>
+#include <ZelmarMediaLib/datatypes/ObserverList.h>
 
 #include <memory>
 
 namespace ZelmarMediaLib {
 
-class ObserverList;
 
 class ZML_EXPORT Subject : public Observable {
 public:
@@ -42,7 +42,8 @@ public:
     bool isNotifying() const;
 
 private:
-    std::unique_ptr<ObserverList> observers_;
+    // Held in place: most subjects never get an observer, and an empty list costs no allocation.
+    mutable ObserverList observers_;
     mutable int disableCount_ = 0;
 };
 

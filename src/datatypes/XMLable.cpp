@@ -6,6 +6,18 @@
 
 namespace ZelmarMediaLib {
 
+namespace {
+
+// The same blanks as genIndent(n), without making a string for every line.
+void writeIndent(std::ostream& out, int n) {
+    static char const blanks[] = "                                                                ";
+    std::streamsize const chunk = static_cast<std::streamsize>(sizeof blanks - 1);
+    for (std::streamsize left = n; left > 0; left -= chunk)
+        out.write(blanks, left < chunk ? left : chunk);
+}
+
+}  // namespace
+
 XMLIdentified::XMLIdentified() : ident_(IdentManager::instance()->newIdent()) {}
 
 XMLIdentified::XMLIdentified(XMLIdentified const&) : ident_(IdentManager::instance()->newIdent()) {}
@@ -22,13 +34,15 @@ void XMLable::toXML(Options& options, int indent, std::string extraAttributes) c
     std::ostream& out = *options.stream;
     // The blank after the id and the one before the extra attributes are always written:
     // an element without attributes opens with `"  >`, and that spacing is the format.
-    out << genIndent(indent) << '<';
+    writeIndent(out, indent);
+    out << '<';
     xmlName(options);
     out << " id=\"" << xmlIdent() << "\" ";
     xmlAttributes(options);
     out << ' ' << extraAttributes << ">\n";
     xmlBody(options, indent + 1);
-    out << genIndent(indent) << "</";
+    writeIndent(out, indent);
+    out << "</";
     xmlName(options);
     out << ">\n";
 }

@@ -19,6 +19,10 @@ EdgeModification& EdgeModification::operator=(EdgeModification const& other) {
     return *this;
 }
 
+EdgeModification::EdgeModification(EdgeModification&& other) noexcept = default;
+
+EdgeModification& EdgeModification::operator=(EdgeModification&& other) noexcept = default;
+
 EdgeModification::~EdgeModification() = default;
 
 double EdgeModification::execute(double fraction, long long time) const {

@@ -17,6 +17,10 @@ public:
     EdgeModification(shared_ptr<Parameter<double> const> parameter, EdgeModFunc const& func);
     EdgeModification(EdgeModification const& other);
     EdgeModification& operator=(EdgeModification const& other);
+    // A move hands the function over, so it keeps its identity number in the document; the
+    // moved-from modification may only be assigned to or destroyed.
+    EdgeModification(EdgeModification&& other) noexcept;
+    EdgeModification& operator=(EdgeModification&& other) noexcept;
     ~EdgeModification();
 
     shared_ptr<Parameter<double> const> const& parameter() const { return parameter_; }

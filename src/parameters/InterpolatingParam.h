@@ -27,8 +27,7 @@ public:
     }
     // The copy gets its own lane; the interpolater objects stay shared.
     InterpolatingParam(InterpolatingParam const& other)
-        : XMLIdentified(other), ParameterImpl<T>(other), Parametric(other),
-          lane_(shared_ptr<Lane>(other.lane_->clone())) {}
+        : XMLIdentified(other), ParameterImpl<T>(other), Parametric(other), lane_(copyOf(*other.lane_)) {}
 
     // Each keyframe's time and address, for debugging.
     std::string description() const override {
@@ -91,6 +90,12 @@ public:
     }
 
 private:
+    // The same copy as the lane's clone(), made in one block with its count.
+    static shared_ptr<Lane> copyOf(Lane const& lane) {
+        ReadWriteMutex::ScopedReadLock lock(&lane.mutex());
+        return boost::make_shared<Lane>(lane);
+    }
+
     shared_ptr<Lane> lane_;
 };
 

@@ -1,14 +1,17 @@
 #pragma once
-// The keyframe store behind every concrete parameter: an ordered map from time to keyframe.
+// The keyframe store behind every concrete parameter: keyframes sorted by time in a flat store.
 #include <ZelmarMediaLib/datatypes/XMLRepresentation.h>
 #include <ZelmarMediaLib/exceptions/KeyFrameException.h>
 #include <ZelmarMediaLib/parameters/Attribute.h>
 #include <ZelmarMediaLib/parameters/Interpolater.h>
 #include <ZelmarMediaLib/parameters/Parameter.h>
 
+#include <boost/container/small_vector.hpp>
+
+#include <algorithm>
 #include <cmath>
 #include <limits>
-#include <map>
+#include <typeinfo>
 #include <ostream>
 #include <utility>
 
@@ -21,19 +24,25 @@ std::string xml_representation(KeyFrame<T> const& keyframe) {
 }
 
 // Mutators take no lock and notify once: they run under the write lock of the command
-// that calls them. Invariant: each map key equals the time of the keyframe it holds.
+// that calls them. Invariant: the entries are sorted by time without doubles, and each
+// entry's time equals the time of the keyframe it holds.
+// Most parameters hold one keyframe all their life, so the store keeps one entry inline:
+// such a parameter costs no allocation for its store, and a clone copies values only.
 template <class T>
 class ParameterImpl : public Parameter<T> {
 public:
-    typedef std::map<long long, shared_ptr<KeyFrame<T> > > KeyFrameMap;
+    typedef std::pair<long long, shared_ptr<KeyFrame<T> > > Entry;
+    typedef boost::container::small_vector<Entry, 1> KeyFrameMap;
 
     void addKeyFrame(long long time, T const& value) override {
         addKeyFrame(boost::make_shared<KeyFrame<T> >(time, value));
     }
 
     void addKeyFrame(shared_ptr<KeyFrame<T> > keyframe) override {
-        if (!keyframes_.emplace(keyframe->time, keyframe).second)
+        typename KeyFrameMap::iterator const place = lowerBound(keyframe->time);
+        if (place != keyframes_.end() && place->first == keyframe->time)
             throw KeyFrameException(keyframe->time);
+        keyframes_.emplace(place, keyframe->time, keyframe);
         this->notify();
     }
 
@@ -66,12 +75,12 @@ public:
     // onto its own time is refused.
     void moveKeyFrame(long long from, long long to) override {
         typename KeyFrameMap::iterator const found = existing(from);
-        if (keyframes_.count(to))
+        if (contains(to))
             throw KeyFrameException(to);
         shared_ptr<KeyFrame<T> > keyframe = found->second;
         keyframes_.erase(found);
         keyframe->time = to;
-        keyframes_.emplace(to, keyframe);
+        keyframes_.emplace(lowerBound(to), to, keyframe);
         this->notify();
     }
 
@@ -91,12 +100,12 @@ public:
 
         typename KeyFrameMap::const_iterator right;
         if (std::fmod(time, 1.0) > 0) {
-            right = keyframes_.upper_bound(static_cast<long long>(time));
+            right = upperBound(static_cast<long long>(time));
         } else {
             // A NaN has no whole part; it is looked up at the smallest time.
             long long const whole =
                 std::isnan(time) ? std::numeric_limits<long long>::min() : static_cast<long long>(time);
-            right = keyframes_.lower_bound(whole);
+            right = lowerBound(whole);
             if (static_cast<double>(right->first) == time)
                 return right->second->value;
         }
@@ -114,20 +123,20 @@ public:
 
     shared_ptr<KeyFrame<T> > keyframeAtTime(long long time) const override {
         ReadWriteMutex::ScopedReadLock lock(&this->mutex());
-        typename KeyFrameMap::const_iterator const found = keyframes_.find(time);
-        if (found == keyframes_.end())
+        typename KeyFrameMap::const_iterator const found = lowerBound(time);
+        if (found == keyframes_.end() || found->first != time)
             throw KeyFrameException(time);
         return found->second;
     }
 
     bool hasKeyFrameAtTime(long long time) const override {
         ReadWriteMutex::ScopedReadLock lock(&this->mutex());
-        return keyframes_.count(time) != 0;
+        return contains(time);
     }
 
     bool hasKeyFrameInRange(Range<long long> range) const override {
         ReadWriteMutex::ScopedReadLock lock(&this->mutex());
-        typename KeyFrameMap::const_iterator const found = keyframes_.lower_bound(range.start);
+        typename KeyFrameMap::const_iterator const found = lowerBound(range.start);
         return found != keyframes_.end() && found->first <= range.start + range.duration;
     }
 
@@ -138,12 +147,12 @@ public:
     }
 
     long long previousKeyFrameTime(long long time) const override {
-        typename KeyFrameMap::const_iterator const found = keyframes_.lower_bound(time);
+        typename KeyFrameMap::const_iterator const found = lowerBound(time);
         return found == keyframes_.begin() ? std::numeric_limits<long long>::min() : std::prev(found)->first;
     }
 
     long long nextKeyFrameTime(long long time) const override {
-        typename KeyFrameMap::const_iterator const found = keyframes_.upper_bound(time);
+        typename KeyFrameMap::const_iterator const found = upperBound(time);
         return found == keyframes_.end() ? std::numeric_limits<long long>::max() : found->first;
     }
 
@@ -199,10 +208,17 @@ protected:
     ParameterImpl(weak_ptr<ThreadSafe const> project, std::string const& name) : Parameter<T>(project) {
         this->identAttribute()->setValue(name);
     }
-    // Every keyframe is cloned under its time.
+    // Every keyframe is cloned under its time; a plain keyframe is copied into one block
+    // with its count, one of an application's own kinds through its clone().
     ParameterImpl(ParameterImpl const& other) : XMLIdentified(other), Parameter<T>(other) {
-        for (auto const& entry : other.keyframes_)
-            keyframes_.emplace(entry.first, shared_ptr<KeyFrame<T> >(entry.second->clone()));
+        keyframes_.reserve(other.keyframes_.size());
+        for (Entry const& entry : other.keyframes_) {
+            KeyFrame<T> const& keyframe = *entry.second;
+            if (typeid(keyframe) == typeid(KeyFrame<T>))
+                keyframes_.emplace_back(entry.first, boost::make_shared<KeyFrame<T> >(keyframe));
+            else
+                keyframes_.emplace_back(entry.first, shared_ptr<KeyFrame<T> >(keyframe.clone()));
+        }
     }
 
     // The keyframe block: written only when there is a keyframe, at the given level, each
@@ -223,9 +239,26 @@ protected:
     KeyFrameMap const& keyframes() const { return keyframes_; }
 
 private:
+    static bool earlier(Entry const& entry, long long time) { return entry.first < time; }
+    static bool later(long long time, Entry const& entry) { return time < entry.first; }
+
+    typename KeyFrameMap::iterator lowerBound(long long time) {
+        return std::lower_bound(keyframes_.begin(), keyframes_.end(), time, &ParameterImpl::earlier);
+    }
+    typename KeyFrameMap::const_iterator lowerBound(long long time) const {
+        return std::lower_bound(keyframes_.begin(), keyframes_.end(), time, &ParameterImpl::earlier);
+    }
+    typename KeyFrameMap::const_iterator upperBound(long long time) const {
+        return std::upper_bound(keyframes_.begin(), keyframes_.end(), time, &ParameterImpl::later);
+    }
+    bool contains(long long time) const {
+        typename KeyFrameMap::const_iterator const found = lowerBound(time);
+        return found != keyframes_.end() && found->first == time;
+    }
+
     typename KeyFrameMap::iterator existing(long long time) {
-        typename KeyFrameMap::iterator const found = keyframes_.find(time);
-        if (found == keyframes_.end())
+        typename KeyFrameMap::iterator const found = lowerBound(time);
+        if (found == keyframes_.end() || found->first != time)
             throw KeyFrameException(time);
         return found;
     }

@@ -5,6 +5,7 @@
 #include <ZelmarMediaLib/clipbin/SourceBin.h>
 #include <ZelmarMediaLib/commands/Command.h>
 #include <ZelmarMediaLib/commands/CommandHistory.h>
+#include <ZelmarMediaLib/commands/edgemods/DefaultEdgeModCommandHandler.h>
 #include <ZelmarMediaLib/commands/keyframes/KeyFrameTime.h>
 #include <ZelmarMediaLib/commands/placement/AddMediaGuard.h>
 #include <ZelmarMediaLib/datatypes/NotifyDelay.h>
@@ -52,7 +53,8 @@ InternalProject::InternalProject(rational<unsigned long> editRate)
       version_(defaultVersion),
       mutex_(new ReadWriteMutex),
       commandObserver_(nullptr),
-      combineNext_(false) {}
+      combineNext_(false),
+      edgeModCommandHandler_(new DefaultEdgeModCommandHandler) {}
 
 InternalProject::InternalProject(InternalProject const& other)
     : XMLIdentified(other),
@@ -64,7 +66,8 @@ InternalProject::InternalProject(InternalProject const& other)
       editRate_(other.editRate_),
       version_(defaultVersion),
       commandObserver_(nullptr),
-      combineNext_(false) {
+      combineNext_(false),
+      edgeModCommandHandler_(new DefaultEdgeModCommandHandler) {
     commandHistory_->setCommandHandler(this);
 }
 
@@ -447,6 +450,10 @@ std::optional<ReadWriteMutex::ScopedReadLock> InternalProject::readLock() const 
     if (!mutex_)
         return std::nullopt;
     return std::optional<ReadWriteMutex::ScopedReadLock>(std::in_place, mutex_.get());
+}
+
+EdgeModCommandHandler* InternalProject::edgeModCommandHandler() {
+    return edgeModCommandHandler_.get();
 }
 
 void InternalProject::setCommandHandler(CommandHandler* handler) {

@@ -3,6 +3,7 @@
 #include <ZelmarMediaLib/clipbin/MediaFileStats.h>
 #include <ZelmarMediaLib/clipbin/Source.h>
 #include <ZelmarMediaLib/datatypes/ReadWriteMutex.h>
+#include <ZelmarMediaLib/edgemods/EdgeModCloneUtil.h>
 #include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
 #include <ZelmarMediaLib/timeline/MediaDispatcher.h>
 #include <ZelmarMediaLib/timeline/VisualFileMedia.h>
@@ -90,7 +91,7 @@ std::string AMFile::description() const {
 }
 
 AMFile* AMFile::clone() const {
-    return new AMFile(*this);
+    return EdgeModCloneUtil::withEdgeMods(std::unique_ptr<AMFile>(new AMFile(*this)), *this);
 }
 
 void AMFile::receiveDispatcher(ConstMediaDispatcher* dispatcher) const {

@@ -3,6 +3,7 @@
 #include <ZelmarMediaLib/clipbin/MediaFileStats.h>
 #include <ZelmarMediaLib/clipbin/Source.h>
 #include <ZelmarMediaLib/datatypes/ReadWriteMutex.h>
+#include <ZelmarMediaLib/edgemods/EdgeModCloneUtil.h>
 #include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
 #include <ZelmarMediaLib/parameters/Attribute.h>
 #include <ZelmarMediaLib/timeline/MediaDispatcher.h>
@@ -103,7 +104,7 @@ std::string IMFile::description() const {
 }
 
 IMFile* IMFile::clone() const {
-    return new IMFile(*this);
+    return EdgeModCloneUtil::withEdgeMods(std::unique_ptr<IMFile>(new IMFile(*this)), *this);
 }
 
 void IMFile::receiveDispatcher(ConstMediaDispatcher* dispatcher) const {

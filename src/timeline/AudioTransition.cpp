@@ -1,6 +1,7 @@
 #include <ZelmarMediaLib/timeline/AudioTransition.h>
 
 #include <ZelmarMediaLib/datatypes/ReadWriteMutex.h>
+#include <ZelmarMediaLib/edgemods/EdgeModCloneUtil.h>
 #include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
 #include <ZelmarMediaLib/timeline/MediaDispatcher.h>
 #include <ZelmarMediaLib/effects/Effect.h>
@@ -23,7 +24,7 @@ AudioTransition::AudioTransition(AudioTransition const& other)
 AudioTransition::~AudioTransition() = default;
 
 AudioTransition* AudioTransition::clone() const {
-    return new AudioTransition(*this);
+    return EdgeModCloneUtil::withEdgeMods(std::unique_ptr<AudioTransition>(new AudioTransition(*this)), *this);
 }
 
 void AudioTransition::receiveDispatcher(ConstMediaDispatcher* dispatcher) const {

@@ -1,5 +1,6 @@
 #include <ZelmarMediaLib/timeline/Callout.h>
 
+#include <ZelmarMediaLib/edgemods/EdgeModCloneUtil.h>
 #include <ZelmarMediaLib/parameters/Attribute.h>
 #include <ZelmarMediaLib/parameters/LeftParameter.h>
 #include <ZelmarMediaLib/timeline/MediaDispatcher.h>
@@ -26,7 +27,7 @@ std::string Callout::description() const {
 }
 
 Callout* Callout::clone() const {
-    return new Callout(*this);
+    return EdgeModCloneUtil::withEdgeMods(std::unique_ptr<Callout>(new Callout(*this)), *this);
 }
 
 void Callout::receiveDispatcher(ConstMediaDispatcher* dispatcher) const {

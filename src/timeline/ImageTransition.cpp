@@ -1,6 +1,7 @@
 #include <ZelmarMediaLib/timeline/ImageTransition.h>
 
 #include <ZelmarMediaLib/datatypes/ReadWriteMutex.h>
+#include <ZelmarMediaLib/edgemods/EdgeModCloneUtil.h>
 #include <ZelmarMediaLib/effects/Effect.h>
 #include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
 #include <ZelmarMediaLib/parameters/Attribute.h>
@@ -25,7 +26,7 @@ ImageTransition::ImageTransition(ImageTransition const& other)
 ImageTransition::~ImageTransition() = default;
 
 ImageTransition* ImageTransition::clone() const {
-    return new ImageTransition(*this);
+    return EdgeModCloneUtil::withEdgeMods(std::unique_ptr<ImageTransition>(new ImageTransition(*this)), *this);
 }
 
 void ImageTransition::receiveDispatcher(ConstMediaDispatcher* dispatcher) const {

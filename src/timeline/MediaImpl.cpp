@@ -332,7 +332,7 @@ void MediaImpl::setRightEdgeModificationLength(long long length) {
     notify();
 }
 
-long long MediaImpl::effectiveEdgeLength(long long own, long long other, long long duration) {
+long long MediaImpl::calcEdgeLength(long long own, long long other, long long duration) {
     if (own + other <= duration)
         return own;
     if (2 * std::min(own, other) > duration)
@@ -344,12 +344,12 @@ long long MediaImpl::effectiveEdgeLength(long long own, long long other, long lo
 
 long long MediaImpl::leftEdgeModificationLength() const {
     ReadWriteMutex::ScopedReadLock lock(&mutex());
-    return effectiveEdgeLength(leftEdgeModificationLength_, rightEdgeModificationLength_, trackRange_.duration);
+    return calcEdgeLength(leftEdgeModificationLength_, rightEdgeModificationLength_, trackRange_.duration);
 }
 
 long long MediaImpl::rightEdgeModificationLength() const {
     ReadWriteMutex::ScopedReadLock lock(&mutex());
-    return effectiveEdgeLength(rightEdgeModificationLength_, leftEdgeModificationLength_, trackRange_.duration);
+    return calcEdgeLength(rightEdgeModificationLength_, leftEdgeModificationLength_, trackRange_.duration);
 }
 
 long long MediaImpl::storedLeftEdgeModificationLength() const {

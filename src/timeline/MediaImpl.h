@@ -106,7 +106,7 @@ public:
 
     // The shorter zone keeps its length while it fits in half the media; the longer takes
     // what is left; if both pass the half, each gets half.
-    static long long effectiveEdgeLength(long long own, long long other, long long duration);
+    static long long calcEdgeLength(long long own, long long other, long long duration);
 
 protected:
     // range is in the material: the media starts at track time 0 until it is placed.

@@ -1,6 +1,7 @@
 #include <ZelmarMediaLib/timeline/TextBox.h>
 
 #include <ZelmarMediaLib/datatypes/ReadWriteMutex.h>
+#include <ZelmarMediaLib/edgemods/EdgeModCloneUtil.h>
 #include <ZelmarMediaLib/parameters/Attribute.h>
 #include <ZelmarMediaLib/parameters/LeftParameter.h>
 #include <ZelmarMediaLib/timeline/MediaDispatcher.h>
@@ -27,7 +28,7 @@ std::string TextBox::description() const {
 }
 
 TextBox* TextBox::clone() const {
-    return new TextBox(*this);
+    return EdgeModCloneUtil::withEdgeMods(std::unique_ptr<TextBox>(new TextBox(*this)), *this);
 }
 
 void TextBox::receiveDispatcher(ConstMediaDispatcher* dispatcher) const {

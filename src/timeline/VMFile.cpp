@@ -4,6 +4,7 @@
 #include <ZelmarMediaLib/clipbin/ScreenMetaData.h>
 #include <ZelmarMediaLib/clipbin/Source.h>
 #include <ZelmarMediaLib/datatypes/ReadWriteMutex.h>
+#include <ZelmarMediaLib/edgemods/EdgeModCloneUtil.h>
 #include <ZelmarMediaLib/exceptions/ZelmarMediaLibException.h>
 #include <ZelmarMediaLib/parameters/Attribute.h>
 #include <ZelmarMediaLib/timeline/AbstractIMFile.h>
@@ -56,7 +57,7 @@ std::string VMFile::description() const {
 }
 
 VMFile* VMFile::clone() const {
-    return new VMFile(*this);
+    return EdgeModCloneUtil::withEdgeMods(std::unique_ptr<VMFile>(new VMFile(*this)), *this);
 }
 
 void VMFile::receiveDispatcher(ConstMediaDispatcher* dispatcher) const {

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <thread>
 
 namespace ZelmarMediaLib {
 namespace {
@@ -137,6 +138,29 @@ TEST_F(ObservationTest, CollectionKeepsItsObjectsAliveUntilItEnds) {
         UpdateCollector::instance()->addObservable(temporary);
     }
     EXPECT_EQ(1, watcher.calls);
+}
+
+// Regression: the held list and the collection were shared by every thread, so a reader that
+// trimmed copies of its own while a command ran on another thread raced with that command's
+// delay and put its copies into it.
+TEST_F(ObservationTest, DelayAndCollectionHoldOnlyTheNotificationsOfTheirOwnThread) {
+    {
+        NotifyDelay delay;
+        UpdateCollector::Collection collection;
+        std::thread other([] {
+            Subject elsewhere;
+            CountingObserver watcher;
+            elsewhere.attach(&watcher);
+            EXPECT_FALSE(NotifyDelay::isActive());
+            EXPECT_FALSE(UpdateCollector::instance()->isCollecting());
+            elsewhere.notify();
+            EXPECT_EQ(1, watcher.calls);
+        });
+        other.join();
+        subject.notify();
+        EXPECT_EQ(0, observer.calls);
+    }
+    EXPECT_EQ(1, observer.calls);
 }
 
 }  // namespace

@@ -19,6 +19,7 @@
 
 #include <atomic>
 #include <cmath>
+#include <iterator>
 #include <mutex>
 #include <random>
 #include <sstream>
@@ -131,17 +132,19 @@ protected:
         return dynamic_pointer_cast<VisualMedia>(media)->opacity();
     }
     static shared_ptr<InterpolatingParam<double> const> levelOf(shared_ptr<Media const> const& media) {
-        return levelOf(const_pointer_cast<Media>(media));
+        if (shared_ptr<AudioMedia const> const audio = dynamic_pointer_cast<AudioMedia const>(media))
+            return audio->volume();
+        return dynamic_pointer_cast<VisualMedia const>(media)->opacity();
     }
 
-    // Under the write lock: the media at a random place in the track, or null on an empty track.
+    // Under the project lock: the media at a random place in the track, or null on an empty track.
     static shared_ptr<Media> anyMedia(Track& track, std::mt19937& random) {
-        Track::MediaMap& medias = track.medias();
+        Track::MediaMap const& medias = static_cast<Track const&>(track).medias();
         if (medias.empty())
             return shared_ptr<Media>();
-        Track::MediaMap::iterator it = medias.begin();
+        Track::MediaMap::const_iterator it = medias.begin();
         std::advance(it, random() % medias.size());
-        return const_pointer_cast<Media>(it->second);
+        return track.findMedia(it->second);
     }
 
     // True when the step changed the model.

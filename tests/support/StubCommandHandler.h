@@ -61,6 +61,7 @@ public:
     void unloadSource(shared_ptr<Source const>) override { refuse<int>(); }
     void addClipping(shared_ptr<Clipping>) override { refuse<int>(); }
     void removeClipping(shared_ptr<Clipping>) override { refuse<int>(); }
+    EdgeModCommandHandler* edgeModCommandHandler() override { return refuse<EdgeModCommandHandler*>(); }
 
 private:
     template <class R>

@@ -182,13 +182,13 @@ TEST_F(MediaTimingTest, TimeConversionsFollowTheMaterial) {
 }
 
 TEST_F(MediaTimingTest, EdgeZonesNeverOverlapWhateverIsStored) {
-    EXPECT_EQ(7, MediaImpl::effectiveEdgeLength(10, 10, 15));
-    EXPECT_EQ(9, MediaImpl::effectiveEdgeLength(10, 3, 12));
-    EXPECT_EQ(3, MediaImpl::effectiveEdgeLength(3, 10, 12));
-    EXPECT_EQ(30, MediaImpl::effectiveEdgeLength(30, 30, 100));
-    EXPECT_EQ(50, MediaImpl::effectiveEdgeLength(70, 70, 100));
-    EXPECT_EQ(90, MediaImpl::effectiveEdgeLength(95, 10, 100));
-    EXPECT_EQ(5, MediaImpl::effectiveEdgeLength(10, 0, 5));
+    EXPECT_EQ(7, MediaImpl::calcEdgeLength(10, 10, 15));
+    EXPECT_EQ(9, MediaImpl::calcEdgeLength(10, 3, 12));
+    EXPECT_EQ(3, MediaImpl::calcEdgeLength(3, 10, 12));
+    EXPECT_EQ(30, MediaImpl::calcEdgeLength(30, 30, 100));
+    EXPECT_EQ(50, MediaImpl::calcEdgeLength(70, 70, 100));
+    EXPECT_EQ(90, MediaImpl::calcEdgeLength(95, 10, 100));
+    EXPECT_EQ(5, MediaImpl::calcEdgeLength(10, 0, 5));
 
     shared_ptr<AMFile> media = audio(0, 15, 0.0, 100.0);
     media->setLeftEdgeModificationLength(10);
@@ -280,7 +280,7 @@ TEST_F(MediaTimingTest, RemoveLinkRefusesItselfStrangersAndDriftedRanges) {
     EXPECT_TRUE(b->isLinkedWith(a)) << "one direction only";
 }
 
-TEST_F(MediaTimingTest, CopyKeepsTimingAndStoredEdgesButNoParentLinksOrModifications) {
+TEST_F(MediaTimingTest, CloneKeepsTimingEdgesAndOwnModificationsButNoParentOrLinks) {
     shared_ptr<AMFile> media = audio(10, 100, 0.0, 1000.0), partner = audio(10, 100, 0.0, 1000.0);
     media->link(partner);
     media->stretch(2.0);
@@ -292,7 +292,9 @@ TEST_F(MediaTimingTest, CopyKeepsTimingAndStoredEdgesButNoParentLinksOrModificat
     EXPECT_EQ(media->mediaRange(), copy->mediaRange());
     EXPECT_EQ(2.0, copy->scalar());
     EXPECT_EQ(12, copy->leftEdgeModificationLength());
-    EXPECT_TRUE(copy->leftEdgeModifications().empty());
+    // clone() rebuilds the modifications on the copy's own parameters.
+    ASSERT_EQ(1u, copy->leftEdgeModifications().size());
+    EXPECT_EQ(dynamic_pointer_cast<AMFile>(copy)->volume(), copy->leftEdgeModifications().front().parameter());
     EXPECT_EQ(copy->linkBegin(), copy->linkEnd());
     EXPECT_NE(media->xmlIdent(), copy->xmlIdent());
     shared_ptr<AMFile> typed = dynamic_pointer_cast<AMFile>(copy);

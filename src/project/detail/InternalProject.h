@@ -104,6 +104,8 @@ public:
     void unloadSource(shared_ptr<Source const> source) override;
     void addClipping(shared_ptr<Clipping> clipping) override;
     void removeClipping(shared_ptr<Clipping> clipping) override;
+    // Takes no lock. A clone has a handler of its own.
+    EdgeModCommandHandler* edgeModCommandHandler() override;
 
     // The commands that run from now on call this handler instead of the project.
     void setCommandHandler(CommandHandler* handler);
@@ -149,6 +151,7 @@ private:
     std::unique_ptr<ReadWriteMutex> mutex_;
     CommandObserver* commandObserver_;
     bool combineNext_;
+    std::unique_ptr<EdgeModCommandHandler> edgeModCommandHandler_;
 };
 
 }  // namespace ZelmarMediaLib
