@@ -10,7 +10,6 @@
 
 #include <gtest/gtest.h>
 
-#include <regex>
 #include <sstream>
 #include <string>
 
@@ -29,8 +28,24 @@ inline std::string projectXml(Project const& project) {
 
 // The document with every id replaced by the same mark.
 inline std::string withoutIds(std::string const& xml) {
-    static std::regex const ids(" id=\"[0-9]+\"");
-    return std::regex_replace(xml, ids, " id=\"#\"");
+    static std::string const opening = " id=\"";
+    std::string result;
+    result.reserve(xml.size());
+    std::string::size_type position = 0;
+    for (;;) {
+        std::string::size_type const found = xml.find(opening, position);
+        if (found == std::string::npos)
+            break;
+        std::string::size_type digitsEnd = found + opening.size();
+        while (digitsEnd < xml.size() && xml[digitsEnd] >= '0' && xml[digitsEnd] <= '9')
+            ++digitsEnd;
+        bool const isId = digitsEnd > found + opening.size() && digitsEnd < xml.size() && xml[digitsEnd] == '"';
+        result.append(xml, position, found - position);
+        result += isId ? opening + "#\"" : xml.substr(found, digitsEnd - found);
+        position = isId ? digitsEnd + 1 : digitsEnd;
+    }
+    result.append(xml, position, std::string::npos);
+    return result;
 }
 
 // Both stacks as they stand, by the commands' identity.
