@@ -149,8 +149,10 @@
 #include <ZelmarMediaLib/commands/edgemods/DefaultEdgeModCommandHandler.h>
 #include <ZelmarMediaLib/commands/edgemods/EdgeModCloneCmd.h>
 #include <ZelmarMediaLib/commands/edgemods/EdgeModCommandHandler.h>
+#include <ZelmarMediaLib/commands/edgemods/MoveEdgeModCmd.h>
 #include <ZelmarMediaLib/commands/edgemods/MoveLeftEdgeModCmd.h>
 #include <ZelmarMediaLib/commands/edgemods/MoveRightEdgeModCmd.h>
+#include <ZelmarMediaLib/commands/edgemods/RemoveEdgeModCmd.h>
 #include <ZelmarMediaLib/commands/edgemods/RemoveLeftEdgeModCmd.h>
 #include <ZelmarMediaLib/commands/edgemods/RemoveRightEdgeModCmd.h>
 #include <ZelmarMediaLib/commands/keyframes/AddParameterKeyFrameCmd.h>
