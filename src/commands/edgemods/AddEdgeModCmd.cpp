@@ -1,6 +1,7 @@
 #include <ZelmarMediaLib/commands/edgemods/AddEdgeModCmd.h>
 
 #include <ZelmarMediaLib/commands/CommandHandler.h>
+#include <ZelmarMediaLib/commands/edgemods/detail/EdgeSide.h>
 #include <ZelmarMediaLib/edgemods/AuxEdgeModInfo.h>
 #include <ZelmarMediaLib/edgemods/EdgeModFunc.h>
 #include <ZelmarMediaLib/timeline/VisualMedia.h>
@@ -10,8 +11,9 @@
 
 namespace ZelmarMediaLib {
 
-AddEdgeModCmd::AddEdgeModCmd(shared_ptr<Media const> media, EdgeModification const& modification)
-    : media_(media), modification_(modification) {}
+AddEdgeModCmd::AddEdgeModCmd(detail::EdgeSide const& side, shared_ptr<Media const> media,
+                             EdgeModification const& modification)
+    : side_(&side), media_(media), modification_(modification) {}
 
 bool AddEdgeModCmd::execute(CommandHandler* handler) {
     EdgeModCommandHandler* const edge = handler->edgeModCommandHandler();
@@ -21,12 +23,13 @@ bool AddEdgeModCmd::execute(CommandHandler* handler) {
     // Stays empty for an audio media.
     aux.setVisualMedia(dynamic_pointer_cast<VisualMedia const>(media_));
     func->setAuxInfo(aux);
-    addEdgeMod(edge, media_, EdgeModification(modification_.parameter(), *func));
+    (edge->*(side_->add))(media_, EdgeModification(modification_.parameter(), *func));
     return true;
 }
 
 bool AddEdgeModCmd::unexecute(CommandHandler* handler) {
-    removeEdgeMod(handler->edgeModCommandHandler(), media_, modification_);
+    // The removed modification is dropped: the command keeps the one it was made with.
+    (handler->edgeModCommandHandler()->*(side_->remove))(media_, modification_.parameter());
     return true;
 }
 

@@ -6,8 +6,10 @@
 
 namespace ZelmarMediaLib {
 
-class EdgeModCommandHandler;
 class Media;
+namespace detail {
+struct EdgeSide;
+}
 
 // Each execute, redo included, adds a fresh copy of the function that knows the project's
 // visual mixer and, for a visual media, the media: a slide needs both to find the stage.
@@ -24,15 +26,12 @@ public:
     EdgeModification const& modification() const { return modification_; }
 
 protected:
-    AddEdgeModCmd(shared_ptr<Media const> media, EdgeModification const& modification);
+    AddEdgeModCmd(detail::EdgeSide const& side, shared_ptr<Media const> media, EdgeModification const& modification);
     AddEdgeModCmd(AddEdgeModCmd const& other) = default;
 
-    virtual void addEdgeMod(EdgeModCommandHandler* edge, shared_ptr<Media const> media,
-                            EdgeModification modification) = 0;
-    virtual void removeEdgeMod(EdgeModCommandHandler* edge, shared_ptr<Media const> media,
-                               EdgeModification modification) = 0;
 
 private:
+    detail::EdgeSide const* side_;
     shared_ptr<Media const> media_;
     EdgeModification modification_;
 };

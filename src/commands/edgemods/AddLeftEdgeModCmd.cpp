@@ -1,6 +1,6 @@
 #include <ZelmarMediaLib/commands/edgemods/AddLeftEdgeModCmd.h>
 
-#include <ZelmarMediaLib/commands/edgemods/EdgeModCommandHandler.h>
+#include <ZelmarMediaLib/commands/edgemods/detail/EdgeSide.h>
 #include <ZelmarMediaLib/timeline/Media.h>
 
 #include <ostream>
@@ -8,7 +8,7 @@
 namespace ZelmarMediaLib {
 
 AddLeftEdgeModCmd::AddLeftEdgeModCmd(shared_ptr<Media const> media, EdgeModification const& modification)
-    : AddEdgeModCmd(media, modification) {}
+    : AddEdgeModCmd(detail::leftEdge(), media, modification) {}
 
 shared_ptr<AddLeftEdgeModCmd> AddLeftEdgeModCmd::create(shared_ptr<Media const> media,
                                                       EdgeModification const& modification) {
@@ -21,16 +21,6 @@ AddLeftEdgeModCmd* AddLeftEdgeModCmd::clone() const {
 
 void AddLeftEdgeModCmd::xmlName(XMLable::Options& options) const {
     *options.stream << "AddLeftEdgeModCmd";
-}
-
-void AddLeftEdgeModCmd::addEdgeMod(EdgeModCommandHandler* edge, shared_ptr<Media const> media,
-                                   EdgeModification modification) {
-    edge->addLeftEdgeModification(media, modification);
-}
-
-void AddLeftEdgeModCmd::removeEdgeMod(EdgeModCommandHandler* edge, shared_ptr<Media const> media,
-                                      EdgeModification modification) {
-    edge->removeLeftEdgeModification(media, modification.parameter());
 }
 
 }  // namespace ZelmarMediaLib

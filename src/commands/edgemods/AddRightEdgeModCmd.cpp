@@ -1,6 +1,6 @@
 #include <ZelmarMediaLib/commands/edgemods/AddRightEdgeModCmd.h>
 
-#include <ZelmarMediaLib/commands/edgemods/EdgeModCommandHandler.h>
+#include <ZelmarMediaLib/commands/edgemods/detail/EdgeSide.h>
 #include <ZelmarMediaLib/timeline/Media.h>
 
 #include <ostream>
@@ -8,7 +8,7 @@
 namespace ZelmarMediaLib {
 
 AddRightEdgeModCmd::AddRightEdgeModCmd(shared_ptr<Media const> media, EdgeModification const& modification)
-    : AddEdgeModCmd(media, modification) {}
+    : AddEdgeModCmd(detail::rightEdge(), media, modification) {}
 
 shared_ptr<AddRightEdgeModCmd> AddRightEdgeModCmd::create(shared_ptr<Media const> media,
                                                       EdgeModification const& modification) {
@@ -21,16 +21,6 @@ AddRightEdgeModCmd* AddRightEdgeModCmd::clone() const {
 
 void AddRightEdgeModCmd::xmlName(XMLable::Options& options) const {
     *options.stream << "AddRightEdgeModCmd";
-}
-
-void AddRightEdgeModCmd::addEdgeMod(EdgeModCommandHandler* edge, shared_ptr<Media const> media,
-                                   EdgeModification modification) {
-    edge->addRightEdgeModification(media, modification);
-}
-
-void AddRightEdgeModCmd::removeEdgeMod(EdgeModCommandHandler* edge, shared_ptr<Media const> media,
-                                      EdgeModification modification) {
-    edge->removeRightEdgeModification(media, modification.parameter());
 }
 
 }  // namespace ZelmarMediaLib

@@ -15,12 +15,6 @@ public:
 protected:
     AddRightEdgeModCmd(shared_ptr<Media const> media, EdgeModification const& modification);
     AddRightEdgeModCmd(AddRightEdgeModCmd const& other) = default;
-
-    void addEdgeMod(EdgeModCommandHandler* edge, shared_ptr<Media const> media,
-                    EdgeModification modification) override;
-    // The removed modification is dropped: the command keeps the one it was made with.
-    void removeEdgeMod(EdgeModCommandHandler* edge, shared_ptr<Media const> media,
-                       EdgeModification modification) override;
 };
 
 }  // namespace ZelmarMediaLib
