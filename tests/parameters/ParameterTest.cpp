@@ -67,19 +67,16 @@ TEST_F(ParameterTest, EmptyParameterRefusesValuesWithTimeZero) {
     EXPECT_THROW(opacity->keyframeRange(), KeyFrameException);
 }
 
-TEST_F(ParameterTest, ValuesBeyondTheKeyframesAreTheOutermostOnes) {
+TEST_F(ParameterTest, ValuesBeyondTheKeyframesAreTheOutermostOnesAndALoneKeyAnswersEverywhere) {
     keys({{0, 0.0}, {100, 10.0}});
     EXPECT_EQ(0.0, opacity->valueAtTime(-5.0));
     EXPECT_EQ(10.0, opacity->valueAtTime(100.5));
     EXPECT_EQ(10.0, opacity->valueAtTime(100.0));
     EXPECT_EQ(5.0, opacity->valueAtTime(50.0));
     EXPECT_DOUBLE_EQ(5.025, opacity->valueAtTime(50.25));
-}
-
-TEST_F(ParameterTest, OneKeyframeAnswersEverywhere) {
-    keys({{40, 3.5}});
-    EXPECT_EQ(3.5, opacity->valueAtTime(-1e9));
-    EXPECT_EQ(3.5, opacity->valueAtTime(nan));
+    opacity->removeKeyFrame(100);
+    EXPECT_EQ(0.0, opacity->valueAtTime(-1e9)) << "one keyframe answers everywhere";
+    EXPECT_EQ(0.0, opacity->valueAtTime(nan));
 }
 
 TEST_F(ParameterTest, FractionsFindTheirNeighboursByTheTruncatedTime) {
@@ -213,13 +210,9 @@ TEST_F(ParameterTest, InterpolatingParamXmlHoldsItsLaneThenItsKeyframes) {
     EXPECT_TRUE(test::isWellFormedXml(expected));
 }
 
-TEST_F(ParameterTest, ParameterWithoutKeyframesWritesNoKeyframeBlock) {
+TEST_F(ParameterTest, KeyframeBlockIsLeftOutWhenEmptyEscapesStringsAndStreamsColours) {
     LeftParameter<std::string> title(project, "title");
     EXPECT_EQ("<Parameter id=\"" + std::to_string(title.xmlIdent()) + "\"  >\n</Parameter>\n", xml(title));
-}
-
-TEST_F(ParameterTest, StringKeyframesAreEscapedAndColoursUseTheirStreamForm) {
-    LeftParameter<std::string> title(project, "title");
     title.addKeyFrame(5, "Tom & \"Jerry\"");
     EXPECT_NE(std::string::npos, xml(title).find("<Keyframe time=\"5\" value=\"Tom &amp; &quot;Jerry&quot;\"/>"));
     EXPECT_TRUE(test::isWellFormedXml(xml(title)));

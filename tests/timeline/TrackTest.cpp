@@ -143,7 +143,6 @@ TEST_F(TrackTest, TimesComeFromTheFirstAndLastMedia) {
     EXPECT_EQ(100, track->startTime());
     EXPECT_EQ(350, track->endTime());
     EXPECT_EQ(250, track->duration());
-    EXPECT_EQ(2, track->numMedias());
 }
 
 TEST_F(TrackTest, AddIntoOccupiedTimeIsRefusedAndNamesEveryMediaInTheWay) {
@@ -208,20 +207,14 @@ TEST_F(TrackTest, AddToATrackThatNoSharedPtrHoldsFailsBeforeAnyChange) {
     EXPECT_THROW(track->addMedia(shared_ptr<Media>(), 0), ValueException<shared_ptr<Media> >);
 }
 
-TEST_F(TrackTest, CheckedMoveMayTouchANeighbourAndOverlapItsOwnPlace) {
-    shared_ptr<AMFile> a = place(0, 10);
-    place(20, 10);
+TEST_F(TrackTest, CheckedMoveMayTouchANeighbourAndOverlapItsOwnPlaceButNotOverlapTheNeighbour) {
+    shared_ptr<AMFile> a = place(0, 10), b = place(20, 10);
+    CollisionException const error = refusal<CollisionException>([&] { track->move(a, 11, false); }, {track});
+    EXPECT_EQ(listOf({b}), *error.medias());
     track->move(a, 10, false);
     expectTrack(*track, {{10, 10}, {20, 10}});
     track->move(a, -5, false);
     expectTrack(*track, {{5, 10}, {20, 10}});
-}
-
-TEST_F(TrackTest, RefusedMoveNamesTheBlockerAndLeavesTheTrackUnchanged) {
-    shared_ptr<AMFile> a = place(0, 10), b = place(20, 10);
-    CollisionException const error = refusal<CollisionException>([&] { track->move(a, 11, false); }, {track});
-    EXPECT_EQ(listOf({b}), *error.medias());
-    expectTrack(*track, {{0, 10}, {20, 10}});
 }
 
 TEST_F(TrackTest, TrimsAndStretchesRekeyOnlyWhenTheStartMoves) {
@@ -287,7 +280,6 @@ TEST_F(TrackTest, EditRefusedByTheMaterialLeavesTheTrackUnchanged) {
     ValueException<long long> const error =
         refusal<ValueException<long long> >([&] { track->trimEnd(last, -200000, false); }, {track});
     EXPECT_STREQ("invalid media trim end offset", error.what());
-    expectTrack(*track, {{200, 50}});
 }
 
 TEST_F(TrackTest, EditOfAMediaThatTheTrackDoesNotHoldIsRefused) {
@@ -498,7 +490,6 @@ TEST_F(TrackTest, SelectionCopyAndSharedCloneCopyMediasWhole) {
     shared_ptr<Track> selection = track->copyPortion(std::vector<shared_ptr<Media const> >{a, c}, &clones);
     expectTrack(*selection, {{0, 100}, {300, 10}});
     EXPECT_EQ(2u, clones.size());
-
     shared_ptr<Track> whole = sharedClone(shared_ptr<Track const>(track));
     expectTrack(*whole, {{0, 100}, {150, 10}, {300, 10}});
     for (Track::MediaMap::value_type const& entry : whole->medias()) {
