@@ -11,6 +11,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   libxml2-dev
   libavformat-dev libavcodec-dev libavutil-dev
+  frei0r-plugins frei0r-plugins-dev
 )
 
 missing=()
